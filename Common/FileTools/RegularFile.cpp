@@ -1,0 +1,26 @@
+#include "Common/FileTools/RegularFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+QByteArray RegularFile::readAll(const QString& path, QString& reason)
+{
+    reason = QString();
+    // Opening a FIFO would wait for its writer, on the thread that draws the screen.
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) {
+        reason = QStringLiteral("Not a regular file");
+        return QByteArray();
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        reason = file.errorString();
+        return QByteArray();
+    }
+    const QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        reason = file.errorString();
+        return QByteArray();
+    }
+    return content;
+}

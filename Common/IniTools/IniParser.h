@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QByteArray>
+#include <QPair>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class QTextCodec;
+
+/// Parses the text of an INI file and reports all that it holds and every fault, with line numbers from 1.
+///
+/// Lines end with LF or CRLF; a byte-order mark may stand in front; blanks around a line, a name or a value do not
+/// count. A line is blank, a comment (begins with `;` or `#`), `[name]` (all between the first `[` and the `]` that
+/// ends the line), or `name=value`, split at the first `=`. A value keeps its text exactly; one pair of double quotes
+/// around all of it is taken off and keeps the blanks inside. Names are case-sensitive. Keys before the first group
+/// line belong to the group with the empty name.
+class Q_DECL_EXPORT IniParser
+{
+public:
+    struct Entry {
+        QString group;
+        QString key;
+        QString value;
+        int line;
+    };
+
+    struct Fault {
+        int line;
+        QString reason;
+    };
+
+    IniParser(const QByteArray& content, QTextCodec& codec);
+
+    /// The groups in the order in which they are first named, those without an entry included.
+    const QStringList& groups() const;
+
+    /// The entries in the order of the file. A key given again in its group is here again, and a fault besides.
+    const QVector<Entry>& entries() const;
+
+    /// In the order of their lines: a line that is none of the above, an empty key name, a key given again, a group
+    /// line without its end (entries are then left out until the next group line), bytes that are no text in the
+    /// codec (they become U+FFFD).
+    const QVector<Fault>& faults() const;
+
+private:
+    QString decode(const QByteArray& content, QTextCodec& codec);
+    void parseLine(const QStringRef& line, int number);
+    void parseGroupLine(const QStringRef& line, int number);
+    void parseEntryLine(const QStringRef& line, int number);
+    void enterGroup(const QString& name);
+    void addFault(int line, const QString& reason);
+
+    QStringList groupNames;
+    QVector<Entry> entryList;
+    QVector<Fault> faultList;
+    QSet<QString> knownGroups;
+    QSet<QPair<QString, QString>> knownKeys;
+    QString currentGroup;
+    bool groupIsUsable = true;
+};

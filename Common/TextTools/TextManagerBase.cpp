@@ -1,0 +1,3 @@
+#include "Common/TextTools/TextManagerBase.h"
+
+TextManagerBase::~TextManagerBase() = default;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+/// A text catalogue: texts by their URL, in several languages.
+class Q_DECL_EXPORT TextManagerBase : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+    ~TextManagerBase() override;
+
+    /// The name of the current language.
+    virtual QString getLanguageName() const = 0;
+
+    /// The text URLs that the language file of this name offers.
+    virtual QList<QString> getAvailableUrls(const QString& languageFilename) const = 0;
+
+    /// The text of the URL in the language, or what stands in for it.
+    virtual QString getText(const QString& url, const QString& languageName) const = 0;
+
+Q_SIGNALS:
+    /// The current language has been loaded anew.
+    void languageReloaded();
+};

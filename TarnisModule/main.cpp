@@ -1,0 +1,104 @@
+#include "TarnisModule/Answer.h"
+#include "TarnisModule/DeviceUiResources.h"
+#include "TarnisModule/IconProvider.h"
+#include "deviceuiresourcesadaptor.h"
+#include "iconprovideradaptor.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDir>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <cstdio>
+#include <sys/signalfd.h>
+
+namespace
+{
+
+enum ExitStatus { Success = 0, WrongUsage = 2, NoDirectory = 3, NoBus = 4, NoName = 5 };
+
+int fail(ExitStatus status, const QString& message)
+{
+    std::fprintf(stderr, "tarnis-module: %s\n", qPrintable(message));
+    return status;
+}
+
+// Blocked in every thread and read from a descriptor, so that the event loop ends as it does on any other quit.
+void quitOnSignals(QCoreApplication& application)
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGINT);
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    auto* notifier = new QSocketNotifier(signalfd(-1, &signals, SFD_CLOEXEC), QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
+}
+
+int publish(const QString& directory, QDBusConnection bus)
+{
+    if (!bus.isConnected())
+        return fail(NoBus, QStringLiteral("no connection to the D-Bus: ") + bus.lastError().message());
+    Answer::registerTypes();
+    DeviceUiResources deviceUiResources(directory);
+    IconProvider iconProvider(directory);
+    new DeviceUiResourcesAdaptor(&deviceUiResources);
+    new IconProviderAdaptor(&iconProvider);
+    bus.registerObject(QStringLiteral("/Tarnis/DeviceUiResources"), &deviceUiResources);
+    bus.registerObject(QStringLiteral("/Tarnis/IconProvider"), &iconProvider);
+    // Last: a call that the bus kept back until the name is there must find the objects.
+    const QString name = QStringLiteral("Module.Tarnis");
+    if (!bus.registerService(name)) {
+        const QString reason = bus.lastError().isValid() ? bus.lastError().message()
+                                                         : QStringLiteral("another process owns it");
+        return fail(NoName, QStringLiteral("cannot own the bus name %1: %2").arg(name, reason));
+    }
+    // Without its bus the service is of no use to anyone.
+    bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+                QStringLiteral("Disconnected"), QCoreApplication::instance(), SLOT(quit()));
+    std::printf("%s publishes %s\n", qPrintable(name), qPrintable(directory));
+    std::fflush(stdout);
+    QCoreApplication::exec();
+    return bus.isConnected() ? Success : fail(NoBus, QStringLiteral("the D-Bus went away"));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(TARNIS_VERSION));
+    quitOnSignals(application);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Publishes a resource directory on the D-Bus as Module.Tarnis.\n\n"
+                       "Exit status: 0 after SIGTERM or SIGINT, 2 wrong usage, 3 no such directory, 4 no bus, "
+                       "5 the bus name is not to be had."));
+    const QCommandLineOption resources(QStringLiteral("resources"), QStringLiteral("The resource directory."),
+                                       QStringLiteral("DIR"));
+    const QCommandLineOption session(QStringLiteral("session"),
+                                     QStringLiteral("Use the session bus instead of the system bus."));
+    parser.addOptions({resources, session});
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    if (!parser.parse(QCoreApplication::arguments()))
+        return fail(WrongUsage, parser.errorText());
+    if (parser.isSet(help))
+        parser.showHelp();
+    if (parser.isSet(version))
+        parser.showVersion();
+    if (!parser.positionalArguments().isEmpty())
+        return fail(WrongUsage, QStringLiteral("unexpected argument ") + parser.positionalArguments().constFirst());
+    if (!parser.isSet(resources))
+        return fail(WrongUsage, QStringLiteral("--resources DIR is missing"));
+
+    const QDir directory(parser.value(resources));
+    if (parser.value(resources).isEmpty() || !directory.exists())
+        return fail(NoDirectory, QStringLiteral("no such directory: ") + parser.value(resources));
+    return publish(directory.absolutePath(),
+                   parser.isSet(session) ? QDBusConnection::sessionBus() : QDBusConnection::systemBus());
+}

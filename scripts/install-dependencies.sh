@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing: install-dependencies.sh [--lint]
+# --lint adds what CI needs besides: the second compiler, the formatter and the linter.
+set -euo pipefail
+
+packages=(
+  g++ cmake ninja-build git ca-certificates
+  qtbase5-dev qtdeclarative5-dev
+  qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
+  libqt5svg5 fonts-inter fonts-dejavu-core fonts-ipaexfont-gothic
+  dbus-daemon xvfb x11-xserver-utils python3
+)
+[ "${1:-}" = --lint ] && packages+=(clang libclang-rt-14-dev clang-format clang-tidy)
+
+missing=()
+for package in "${packages[@]}"; do
+  [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}. Run this script as root, or install sudo." >&2; exit 1; }
+  as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
