@@ -9,6 +9,7 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(TarnisBuildSettings INTERFACE)
+target_include_directories(TarnisBuildSettings INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_definitions(TarnisBuildSettings INTERFACE
     QT_MESSAGELOGCONTEXT # file, line and function of log records in release builds too
     QT_NO_CAST_FROM_ASCII

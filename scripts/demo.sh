@@ -29,7 +29,7 @@ if [ -n "${DISPLAY:-}" ]; then
   exit
 fi
 
-start Xvfb -displayfd 1 -screen 0 1280x800x24 -nolisten tcp
+start Xvfb -displayfd 1 -dpi 96 -screen 0 1280x800x24 -nolisten tcp
 for language in en ja; do
   DISPLAY=":$line" "$gallery" --language "$language" --screenshot "build/demo/gallery-$language.png"
   echo "build/demo/gallery-$language.png"

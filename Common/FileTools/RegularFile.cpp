@@ -6,6 +6,10 @@
 QByteArray RegularFile::readAll(const QString& path, QString& reason)
 {
     reason = QString();
+    if (path.isEmpty()) {
+        reason = QStringLiteral("No path");
+        return QByteArray();
+    }
     // Opening a FIFO would wait for its writer, on the thread that draws the screen.
     const QFileInfo info(path);
     if (info.exists() && !info.isFile()) {

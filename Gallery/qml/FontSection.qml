@@ -35,7 +35,7 @@ Section {
                             textFormat: Text.PlainText
                         }
                         Caption {
-                            text: modelData + " " + pointSize + " pt"
+                            text: modelData + " " + pointSize.toFixed(2) + " pt"
                         }
                     }
                 }

@@ -25,6 +25,7 @@ Section {
                 Caption {
                     width: parent.width - 228
                     font.pixelSize: 14
+                    wrapMode: Text.Wrap
                     text: section.texts[modelData]
                 }
             }
