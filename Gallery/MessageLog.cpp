@@ -27,7 +27,8 @@ void MessageLog::handle(QtMsgType type, const QMessageLogContext& context, const
     if (type == QtDebugMsg || type == QtInfoMsg)
         return;
     // Queued: a lookup within a binding may log, and the page that shows the log must not change under it.
-    QMetaObject::invokeMethod(current, [text] { current->append(text); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        current, [text] { current->append(text); }, Qt::QueuedConnection);
 }
 
 void MessageLog::append(const QString& text)

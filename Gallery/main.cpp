@@ -57,7 +57,7 @@ int main(int argc, char* argv[])
     // Without a window no display is needed, but the handlers ask for a screen.
     for (int index = 1; index < argc; ++index) {
         if (std::strcmp(argv[index], "--dump") == 0 && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
+            qputenv("QT_QPA_PLATFORM", "minimal");
     }
     // The same picture on every machine, with or without a GPU.
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
@@ -75,8 +75,8 @@ int main(int argc, char* argv[])
                                         QStringLiteral("FILE.png"));
     const QCommandLineOption dumpOption(
         QStringLiteral("dump"),
-        QStringLiteral("Print every lookup with its answer as JSON. Needs no display: without QT_QPA_PLATFORM, the "
-                       "screen is one of 800x800 pixels and 96 dots per inch."));
+        QStringLiteral("Print every lookup with its answer as JSON. Needs no display: unless QT_QPA_PLATFORM names "
+                       "another, the screen is one of 240x320 pixels and 96 dots per inch."));
     const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("The language of the texts (en)."),
                                       QStringLiteral("NAME"), QStringLiteral("en"));
     parser.addOptions({screenshot, dumpOption, language});

@@ -23,7 +23,8 @@ QDBusVariant IconProvider::getIconResourcesMappingTable(const QString& name) con
 {
     if (name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.')))
         return Answer::error(QStringLiteral("\"%1\" is not the name of a mapping table").arg(name));
-    const QString filename = name.isEmpty() ? QStringLiteral("mapping.json") : QStringLiteral("mapping.%1.json").arg(name);
+    const QString filename =
+        name.isEmpty() ? QStringLiteral("mapping.json") : QStringLiteral("mapping.%1.json").arg(name);
     const QString path = iconDirectory + QLatin1Char('/') + filename;
     const QString problem = Answer::fileProblem(path);
     if (!problem.isNull())

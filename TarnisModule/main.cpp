@@ -52,8 +52,8 @@ int publish(const QString& directory, QDBusConnection bus)
     // Last: a call that the bus kept back until the name is there must find the objects.
     const QString name = QStringLiteral("Module.Tarnis");
     if (!bus.registerService(name)) {
-        const QString reason = bus.lastError().isValid() ? bus.lastError().message()
-                                                         : QStringLiteral("another process owns it");
+        const QString reason =
+            bus.lastError().isValid() ? bus.lastError().message() : QStringLiteral("another process owns it");
         return fail(NoName, QStringLiteral("cannot own the bus name %1: %2").arg(name, reason));
     }
     // Without its bus the service is of no use to anyone.

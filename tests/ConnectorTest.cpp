@@ -116,8 +116,8 @@ private Q_SLOTS:
     void answeredRecordBecomesTheResult_data()
     {
         QTest::addColumn<QString>("scenario");
-        QTest::addColumn<QString>("text"); // null: the value is no text
-        QTest::addColumn<QString>("error"); // of the record
+        QTest::addColumn<QString>("text");              // null: the value is no text
+        QTest::addColumn<QString>("error");             // of the record
         QTest::addColumn<DisplaySizes>("displaySizes"); // of an invalid size: the value is no size list
         const DisplaySizes noList{{QSize(), "none"}};
         const auto row = [&](const char* scenario, const QString& text, const DisplaySizes& displaySizes) {
@@ -165,8 +165,7 @@ private Q_SLOTS:
         if (!error.isNull()) {
             QCOMPARE(log.take(), QStringList(sizesFailure + quoted(error)));
         } else if (!displaySizes.isEmpty() && displaySizes.constFirst().second == "none") {
-            QCOMPARE(log.take(),
-                     QStringList(sizes + "Unable to extract supported display sizes from dbus reply"));
+            QCOMPARE(log.take(), QStringList(sizes + "Unable to extract supported display sizes from dbus reply"));
             displaySizes.clear();
         }
         QCOMPARE(result, displaySizes);
@@ -178,11 +177,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("scenario");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("D-Bus error") << "D-Bus error" << "out of order";
+        QTest::newRow("D-Bus error") << "D-Bus error"
+                                     << "out of order";
         QTest::newRow("no variant") << "no variant"
                                     << "Unexpected reply signature: got \"s\" (QString), expected \"v\" (QDBusVariant)";
-        QTest::newRow("nothing") << "nothing"
-                                 << "Unexpected reply signature: got \"<empty signature>\", expected \"v\" (QDBusVariant)";
+        QTest::newRow("nothing")
+            << "nothing"
+            << "Unexpected reply signature: got \"<empty signature>\", expected \"v\" (QDBusVariant)";
     }
 
     void failedCallIsLoggedTwiceAndOnceByTheGetter()
@@ -213,7 +214,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("scenario");
         QTest::addColumn<QString>("reason");
         QTest::newRow("death in the middle of the call")
-            << "death" << "Message recipient disconnected from message bus without replying";
+            << "death"
+            << "Message recipient disconnected from message bus without replying";
         QTest::newRow("silence past the time limit")
             << "silence"
             << "Did not receive a reply. Possible causes include: the remote application did not send a reply, the "
@@ -277,7 +279,7 @@ private Q_SLOTS:
         QVERIFY(!connectors.icons.isDBusInterfaceValid());
         const QString message = connectors.icons.getInvalidDBusInterfaceMessage();
         QVERIFY2(message.startsWith("No connection to the D-Bus (qt_default_system_bus): "), qPrintable(message));
-        compareFailures([&](const QString&) { return message; });
+        compareFailures([&](const QString&) { return QString(message); });
     }
 };
 

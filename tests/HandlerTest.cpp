@@ -132,14 +132,16 @@ private Q_SLOTS:
         }
         QVERIFY(!colors.getColor("g", "K").isNull());
         const QString record = "TarnisColorHandler::getColor: No color for key %1 in group %2 !";
-        QCOMPARE(log.take(), (QStringList{record.arg("\"k\"", "\"G\""), record.arg("\"a\\\"b\\\\\\n\"", "\"G\""),
-                                          record.arg("\"k\"", "\"G\""), record.arg("\"K\"", "\"g\"")}));
+        QCOMPARE(log.take(),
+                 (QStringList{record.arg("\"k\"", "\"G\""), record.arg("\"a\\\"b\\\\\\n\"", "\"G\""),
+                              record.arg("\"k\"", "\"G\""), record.arg("\"K\"", "\"g\"")}));
     }
 
     void fonts()
     {
-        const TarnisFontHandler fonts(file("fonts.ini", "[Text]\nFamily=Some Font\nNormal=16\nHalf=12.5\nNone=0\n"
-                                                        "Minus=-8\nWord=big\n[Sizes]\nNormal=12\n[Empty]\nFamily="));
+        const TarnisFontHandler fonts(file("fonts.ini",
+                                           "[Text]\nFamily=Some Font\nNormal=16\nHalf=12.5\nNone=0\n"
+                                           "Minus=-8\nWord=big\n[Sizes]\nNormal=12\n[Empty]\nFamily="));
         // Run with several dots per inch.
         const double dotsPerInch = qEnvironmentVariableIntValue("QT_FONT_DPI");
         LogRecorder log;
@@ -239,7 +241,7 @@ private Q_SLOTS:
         manager.urls = QStringList{"text://b", "text://a", "text://b", ""};
         manager.texts = {{"text://b", "B"}};
         std::optional<TarnisTextHandler> handler(manager);
-        const QStringList calls{"name", "urls en.json", "text text://b xx", "text text://a xx", "text text://b xx",
+        const QStringList calls{"name",    "urls en.json", "text text://b xx", "text text://a xx", "text text://b xx",
                                 "text  xx"};
         QCOMPARE(manager.calls, calls);
         QCOMPARE(handler->translatedTexts(), (QVariantMap{{"text://a", ""}, {"text://b", "B"}, {"", ""}}));

@@ -76,16 +76,25 @@ private Q_SLOTS:
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("record");
         const QString unknown = "Unknown context ( \"defaultContext\" )";
-        QTest::newRow("context") << "arrow" << "nightMode" << base + "night/a.svg" << QString();
+        QTest::newRow("context") << "arrow"
+                                 << "nightMode" << base + "night/a.svg" << QString();
         QTest::newRow("no context") << "arrow" << QString() << base + "day/a b%.svg" << QString();
-        QTest::newRow("other context") << "arrow" << "NightMode" << base + "day/a b%.svg" << QString();
-        QTest::newRow("folder") << "arrow" << "folder" << base + "day" << QString();
-        QTest::newRow("missing file") << "arrow" << "gone" << QString() << "Icon file \"" + base + "gone.svg\" does not exist";
-        QTest::newRow("unknown alias") << "Arrow" << "nightMode" << QString() << "Unknown alias name ( \"Arrow\" )";
-        QTest::newRow("empty alias") << "" << "nightMode" << QString() << QString();
-        QTest::newRow("no default") << "lonely" << "other" << QString() << unknown;
-        QTest::newRow("empty context of a bad member") << "bad" << "" << base << QString();
-        QTest::newRow("default of a bad member") << "bad" << "x" << QString() << unknown;
+        QTest::newRow("other context") << "arrow"
+                                       << "NightMode" << base + "day/a b%.svg" << QString();
+        QTest::newRow("folder") << "arrow"
+                                << "folder" << base + "day" << QString();
+        QTest::newRow("missing file") << "arrow"
+                                      << "gone" << QString() << "Icon file \"" + base + "gone.svg\" does not exist";
+        QTest::newRow("unknown alias") << "Arrow"
+                                       << "nightMode" << QString() << "Unknown alias name ( \"Arrow\" )";
+        QTest::newRow("empty alias") << ""
+                                     << "nightMode" << QString() << QString();
+        QTest::newRow("no default") << "lonely"
+                                    << "other" << QString() << unknown;
+        QTest::newRow("empty context of a bad member") << "bad"
+                                                       << "" << base << QString();
+        QTest::newRow("default of a bad member") << "bad"
+                                                 << "x" << QString() << unknown;
     }
 
     void lookup()

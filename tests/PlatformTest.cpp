@@ -36,9 +36,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("entries"); // each group with its keys and values
         QTest::addColumn<QStringList>("faults");
         const auto row = [](const char* name, const QByteArray& content, const QString& entries,
-                            const QStringList& faults = {}) {
-            QTest::newRow(name) << content << entries << faults;
-        };
+                            const QStringList& faults = {}) { QTest::newRow(name) << content << entries << faults; };
         row("nothing", "", "");
         row("blanks, comments, line ends", "\n ; c\r\n#c=1\n[ G ]\r\n k = v w \r\n\tl=", "[G]k=v w,l=,");
         row("byte-order mark", "\xEF\xBB\xBF[G]\nk=v", "[G]k=v,");
@@ -85,8 +83,9 @@ private Q_SLOTS:
 
     void iniValues()
     {
-        const IniFileManager file(writeFile(directory.filePath("n.ini"), "[G]\na=12\nb=-3\nc=0x10\nd=1.5\ne=\n"
-                                                                         "f=2147483648\ng=4 px"),
+        const IniFileManager file(writeFile(directory.filePath("n.ini"),
+                                            "[G]\na=12\nb=-3\nc=0x10\nd=1.5\ne=\n"
+                                            "f=2147483648\ng=4 px"),
                                   "ISO-8859-1");
         QList<int> integers;
         for (const QString& key : file.getChildKeys("G"))
@@ -101,11 +100,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("no path") << "" << "No path";
+        QTest::newRow("no path") << ""
+                                 << "No path";
         QTest::newRow("missing") << directory.filePath("missing") << "No such file or directory";
         QTest::newRow("directory") << directory.path() << "Not a regular file";
         QTest::newRow("FIFO") << directory.filePath("fifo") << "Not a regular file";
-        QTest::newRow("device") << "/dev/zero" << "Not a regular file";
+        QTest::newRow("device") << "/dev/zero"
+                                << "Not a regular file";
     }
 
     void unusableFilesAreSaidOnceAndNeverOpened()
@@ -115,8 +116,8 @@ private Q_SLOTS:
         mkfifo(qPrintable(directory.filePath("fifo")), S_IRUSR);
         LogRecorder log;
         const IniFileManager file(path, nullptr);
-        QCOMPARE(log.take(), QStringList("platform.ini IniFileManager::IniFileManager: Cannot read \"" + path
-                                         + "\": " + reason));
+        QCOMPARE(log.take(),
+                 QStringList("platform.ini IniFileManager::IniFileManager: Cannot read \"" + path + "\": " + reason));
         QVERIFY(file.getGroups().isEmpty());
     }
 
@@ -146,7 +147,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("record");
-        QTest::newRow("syntax") << QByteArray("{\n \"text://b\": }") << "warnOfSyntax: %1:2:15: object is missing after a comma";
+        QTest::newRow("syntax") << QByteArray("{\n \"text://b\": }")
+                                << "warnOfSyntax: %1:2:15: object is missing after a comma";
         QTest::newRow("no object") << QByteArray("[]") << "TextManager::readCatalogue: %1: not a JSON object";
         QTest::newRow("member") << json({{"text://a", "good"}, {"text://b", 1}})
                                 << "TextManager::readCatalogue: %1: \"text://b\" is not a string";

@@ -39,13 +39,12 @@ bool isAddressError(const QDBusError& error)
 
 } // namespace
 
-DBusConnectorBase::DBusConnectorBase(const QString& moduleName, const QString& objectName,
-                                     const QString& interfaceName, QObject* parent, ConnectionMode connectionMode)
+DBusConnectorBase::DBusConnectorBase(const QString& moduleName, const QString& objectName, const QString& interfaceName,
+                                     QObject* parent, ConnectionMode connectionMode)
     : QObject(parent)
     , dBusInterface(new RemoteObject(QStringLiteral("Module.") + moduleName,
                                      QLatin1Char('/') + moduleName + QLatin1Char('/') + objectName,
-                                     strictInterfaceName(interfaceName),
-                                     busConnection(connectionMode), this))
+                                     strictInterfaceName(interfaceName), busConnection(connectionMode), this))
 {
     if (isAddressError(dBusInterface->lastError()))
         addressError = dBusInterface->lastError().message();
@@ -53,9 +52,9 @@ DBusConnectorBase::DBusConnectorBase(const QString& moduleName, const QString& o
 
 DBusConnectorBase::~DBusConnectorBase() = default;
 
-void DBusConnectorBase::connectServices() {}
+void DBusConnectorBase::connectServices() { }
 
-void DBusConnectorBase::disconnectServices() {}
+void DBusConnectorBase::disconnectServices() { }
 
 bool DBusConnectorBase::isDBusInterfaceValid() const
 {

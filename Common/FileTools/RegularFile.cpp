@@ -21,7 +21,7 @@ QByteArray RegularFile::readAll(const QString& path, QString& reason)
         reason = file.errorString();
         return QByteArray();
     }
-    const QByteArray content = file.readAll();
+    QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         reason = file.errorString();
         return QByteArray();

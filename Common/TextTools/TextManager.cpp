@@ -30,8 +30,7 @@ void warnOfSyntax(const QString& path, const QByteArray& content, const QJsonPar
     const QByteArray before = content.left(error.offset);
     const int line = before.count('\n') + 1;
     const int column = before.size() - before.lastIndexOf('\n');
-    qCWarning(platformText).noquote().nospace()
-        << path << ':' << line << ':' << column << ": " << error.errorString();
+    qCWarning(platformText).noquote().nospace() << path << ':' << line << ':' << column << ": " << error.errorString();
 }
 
 } // namespace

@@ -42,8 +42,8 @@ QString TarnisDeviceUiResourcesDBusConnector::convertDBusReplyToString(const DBu
                                                                        const char* iniFile) const
 {
     if (reply.isError()) {
-        qWarning() << "Fetching path to" << iniFile << "failed with the follwoing error:"
-                   << reply.getError().getErrorMessage();
+        qWarning() << "Fetching path to" << iniFile
+                   << "failed with the follwoing error:" << reply.getError().getErrorMessage();
         return QString();
     }
     const QVariant value = reply.getValue();

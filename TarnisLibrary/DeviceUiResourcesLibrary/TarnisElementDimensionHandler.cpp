@@ -22,8 +22,8 @@ double distance(const QSize& left, const QSize& right)
 
 } // namespace
 
-TarnisElementDimensionHandler::TarnisElementDimensionHandler(
-    const QList<QPair<QSize, QString>>& supportedDisplaySizes, QObject* parent)
+TarnisElementDimensionHandler::TarnisElementDimensionHandler(const QList<QPair<QSize, QString>>& supportedDisplaySizes,
+                                                             QObject* parent)
     : QObject(parent)
     , supportedDisplaySizes(supportedDisplaySizes)
 {

@@ -20,8 +20,7 @@ void TarnisTextHandler::updateTexts()
     texts = QVariantMap();
     const TextManagerBase& catalogue = textManager;
     const QString language = catalogue.getLanguageName();
-    const QList<QString> urls =
-        catalogue.getAvailableUrls(LanguageDefinitions::getSecondFallbackLanguageFilename());
+    const QList<QString> urls = catalogue.getAvailableUrls(LanguageDefinitions::getSecondFallbackLanguageFilename());
     for (const QString& url : urls)
         texts.insert(url, catalogue.getText(url, language));
     Q_EMIT translatedTextsChanged();

@@ -53,7 +53,8 @@ TarnisIconHandler::IconMap TarnisIconHandler::parseMappingTable(const QString& m
     IconMap icons;
     const QJsonDocument document = QJsonDocument::fromJson(mappingTable.toUtf8());
     if (!document.isObject()) {
-        qWarning() << "Failed to parse icon mapping json!" << "Invalid json.";
+        qWarning() << "Failed to parse icon mapping json!"
+                   << "Invalid json.";
         return icons;
     }
     QJsonObject aliases = document.object();
@@ -66,7 +67,8 @@ TarnisIconHandler::ContextMap TarnisIconHandler::extractContextBaseMapping(const
 {
     ContextMap paths;
     if (!contexts.isObject()) {
-        qWarning() << "Failed to parse icon mapping json!" << "Ivalid json.";
+        qWarning() << "Failed to parse icon mapping json!"
+                   << "Ivalid json.";
         return paths;
     }
     const QJsonObject members = contexts.toObject();
@@ -81,6 +83,7 @@ QPair<QString, QString> TarnisIconHandler::extractOneContext(const QJsonObject::
 {
     if (context->isString())
         return {context.key(), context->toString()};
-    qWarning() << "Failed to parse icon mapping json!" << "Expected relative path to be of type string.";
+    qWarning() << "Failed to parse icon mapping json!"
+               << "Expected relative path to be of type string.";
     return {QString(), QString()};
 }
