@@ -11,6 +11,8 @@ QtMessageHandler previousHandler = nullptr;
 
 MessageLog::MessageLog()
 {
+    // Queued: a lookup within a binding may log, and the page that shows the log must not change under it.
+    connect(this, &MessageLog::recorded, this, &MessageLog::append, Qt::QueuedConnection);
     current = this;
     previousHandler = qInstallMessageHandler(handle);
 }
@@ -26,9 +28,7 @@ void MessageLog::handle(QtMsgType type, const QMessageLogContext& context, const
     previousHandler(type, context, text);
     if (type == QtDebugMsg || type == QtInfoMsg)
         return;
-    // Queued: a lookup within a binding may log, and the page that shows the log must not change under it.
-    QMetaObject::invokeMethod(
-        current, [text] { current->append(text); }, Qt::QueuedConnection);
+    Q_EMIT current->recorded(text);
 }
 
 void MessageLog::append(const QString& text)

@@ -18,6 +18,7 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void recorded(const QString& text);
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
