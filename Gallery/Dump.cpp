@@ -1,6 +1,6 @@
 #include "Gallery/Dump.h"
 
-#include "Gallery/ResourceNames.h"
+#include "Gallery/Catalogue.h"
 #include "Gallery/UiResources.h"
 
 #include <QJsonDocument>
@@ -9,47 +9,48 @@
 namespace
 {
 
-// One object per entry of the list, named by its member `nameKey`, with the answer for each of its `subnamesKey`.
-template <typename Lookup>
-QJsonObject lookUpAll(const QVariantList& names, const char* nameKey, const char* subnamesKey, Lookup lookUp)
+void insertBelow(QJsonObject& object, const QString& name, const QString& subname, const QJsonValue& value)
 {
-    QJsonObject all;
-    for (const QVariant& entry : names) {
-        const QVariantMap map = entry.toMap();
-        const QString name = map.value(QLatin1String(nameKey)).toString();
-        QJsonObject answers;
-        const QStringList subnames = map.value(QLatin1String(subnamesKey)).toStringList();
-        for (const QString& subname : subnames)
-            answers.insert(subname, lookUp(name, subname));
-        all.insert(name, answers);
-    }
-    return all;
+    QJsonObject members = object.value(name).toObject();
+    members.insert(subname, value);
+    object.insert(name, members);
+}
+
+QString member(const QVariant& entry, const char* name)
+{
+    return entry.toMap().value(QLatin1String(name)).toString();
 }
 
 } // namespace
 
-QByteArray dump(const UiResources& resources, const ResourceNames& names)
+QByteArray dump(const UiResources& resources, const Catalogue& catalogue)
 {
-    const auto color = [&](const QString& group, const QString& key) {
-        return resources.colors()->getColor(group, key);
-    };
-    const auto pointSize = [&](const QString& group, const QString& key) {
-        return resources.fonts()->getFontPointSize(group, key);
-    };
-    const auto iconUrl = [&](const QString& alias, const QString& context) {
-        return resources.icons()->getIconPathAsFileUrl(alias, context);
-    };
+    QJsonObject colors;
+    for (const QVariant& entry : catalogue.colors(QString())) {
+        const QString group = member(entry, "group");
+        const QString key = member(entry, "key");
+        insertBelow(colors, group, key, resources.colors()->getColor(group, key));
+    }
     QJsonObject families;
-    for (const QVariant& entry : names.fonts) {
-        const QString group = entry.toMap().value(QStringLiteral("group")).toString();
-        families.insert(group, resources.fonts()->getFontFamily(group));
+    QJsonObject sizes;
+    for (const QVariant& entry : catalogue.fonts(QString())) {
+        const QString group = member(entry, "group");
+        const QString key = member(entry, "key");
+        if (!families.contains(group))
+            families.insert(group, resources.fonts()->getFontFamily(group));
+        insertBelow(sizes, group, key, resources.fonts()->getFontPointSize(group, key));
+    }
+    QJsonObject icons;
+    for (const QString& alias : catalogue.icons(QString())) {
+        for (const QString& context : catalogue.property("contexts").toStringList())
+            insertBelow(icons, alias, context, resources.icons()->getIconPathAsFileUrl(alias, context));
     }
     const QJsonObject answers{
-        {QStringLiteral("colors"), lookUpAll(names.colors, "group", "keys", color)},
+        {QStringLiteral("colors"), colors},
         {QStringLiteral("fontFamilies"), families},
-        {QStringLiteral("fontPointSizes"), lookUpAll(names.fonts, "group", "keys", pointSize)},
+        {QStringLiteral("fontPointSizes"), sizes},
         {QStringLiteral("dimensions"), QJsonObject::fromVariantMap(resources.dimensions()->uiElementDimensions())},
-        {QStringLiteral("icons"), lookUpAll(names.icons, "alias", "contexts", iconUrl)},
+        {QStringLiteral("icons"), icons},
         {QStringLiteral("texts"), QJsonObject::fromVariantMap(resources.texts()->translatedTexts())},
     };
     return QJsonDocument(answers).toJson();

@@ -2,8 +2,8 @@
 
 #include <QByteArray>
 
-class ResourceNames;
+class Catalogue;
 class UiResources;
 
-/// Every lookup of the page with its answer, as indented JSON.
-QByteArray dump(const UiResources& resources, const ResourceNames& names);
+/// Every lookup of the pages with its answer, as indented JSON.
+QByteArray dump(const UiResources& resources, const Catalogue& catalogue);

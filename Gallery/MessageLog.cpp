@@ -1,11 +1,20 @@
 #include "Gallery/MessageLog.h"
 
+#include <QMutexLocker>
+
+#include <algorithm>
+
 namespace
 {
 
-constexpr int mostRecords = 200;
+constexpr int mostRecords = 500;
 MessageLog* current = nullptr;
 QtMessageHandler previousHandler = nullptr;
+
+bool isOurs(const QMessageLogContext& context)
+{
+    return qstrncmp(context.file, "TarnisLibrary/", 14) == 0 || qstrncmp(context.file, "Common/", 7) == 0;
+}
 
 } // namespace
 
@@ -23,20 +32,37 @@ MessageLog::~MessageLog()
     current = nullptr;
 }
 
+QStringList MessageLog::takeNew()
+{
+    const QMutexLocker locker(&mutex);
+    QStringList texts = std::exchange(newTexts, QStringList());
+    texts.removeDuplicates();
+    return texts;
+}
+
 void MessageLog::handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     previousHandler(type, context, text);
-    if (type == QtDebugMsg || type == QtInfoMsg)
+    if (!isOurs(context))
         return;
+    {
+        const QMutexLocker locker(&current->mutex);
+        current->newTexts.append(text);
+    }
     Q_EMIT current->recorded(text);
 }
 
 void MessageLog::append(const QString& text)
 {
-    if (records.contains(text))
-        return;
-    records.prepend(text);
-    while (records.size() > mostRecords)
+    const auto sameText = [&](const QVariant& record) { return record.toMap().value(QStringLiteral("text")) == text; };
+    const auto known = std::find_if(records.begin(), records.end(), sameText);
+    int count = 1;
+    if (known != records.end()) {
+        count += known->toMap().value(QStringLiteral("count")).toInt();
+        records.erase(known);
+    }
+    records.prepend(QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("count"), count}});
+    if (records.size() > mostRecords)
         records.removeLast();
     Q_EMIT changed();
 }

@@ -4,31 +4,19 @@
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
 
 #include <QFileInfo>
+#include <QtQml>
 
 namespace
 {
 
-// What the service says. No handler asks it anything later.
-struct Answers {
-    QString colorIniFilePath;
-    QString fontIniFilePath;
-    QList<QPair<QSize, QString>> displaySizes;
-    QString iconBasePath;
-    QString iconMappingTable;
-    QString problem;
-};
-
-Answers askService()
+ServiceAnswers askService()
 {
-    Answers answers;
+    ServiceAnswers answers;
     const TarnisDeviceUiResourcesDBusConnector deviceUiResources;
     const TarnisIconProviderDBusConnector iconProvider;
-    const auto noteProblem = [&answers] {
-        answers.problem = QStringLiteral("The service Module.Tarnis cannot be reached on the system bus. "
-                                         "Start tarnis-module, then ask again.");
-    };
-    QObject::connect(&deviceUiResources, &DBusConnectorBase::dBusConnectionError, noteProblem);
-    QObject::connect(&iconProvider, &DBusConnectorBase::dBusConnectionError, noteProblem);
+    const auto noteFailure = [&answers] { answers.isReached = false; };
+    QObject::connect(&deviceUiResources, &DBusConnectorBase::dBusConnectionError, noteFailure);
+    QObject::connect(&iconProvider, &DBusConnectorBase::dBusConnectionError, noteFailure);
     answers.colorIniFilePath = deviceUiResources.getColorIniFilePath();
     answers.fontIniFilePath = deviceUiResources.getFontIniFilePath();
     answers.displaySizes = deviceUiResources.getSupportedDisplaySizes();
@@ -37,44 +25,88 @@ Answers askService()
     return answers;
 }
 
-// The catalogue of texts belongs to the host. This one finds it beside the colours.
-QString textDirectory(const Answers& answers)
+QString directoryOf(const ServiceAnswers& answers)
 {
-    if (answers.colorIniFilePath.isEmpty())
-        return QString();
-    return QFileInfo(answers.colorIniFilePath).absolutePath() + QStringLiteral("/texts");
+    const QString path = answers.colorIniFilePath.isEmpty() ? answers.iconBasePath : answers.colorIniFilePath;
+    return path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
+}
+
+// The catalogue of texts is the host's own. This one finds it beside the colours.
+QString textDirectory(const ServiceAnswers& answers)
+{
+    const QString directory = directoryOf(answers);
+    return directory.isEmpty() ? QString() : directory + QStringLiteral("/texts");
+}
+
+QList<QPair<QSize, QString>> onlyDisplay(const QList<QPair<QSize, QString>>& displaySizes, const QSize& display)
+{
+    QList<QPair<QSize, QString>> only;
+    for (const auto& displaySize : displaySizes) {
+        if (!display.isValid() || displaySize.first == display)
+            only.append(displaySize);
+    }
+    return only;
 }
 
 } // namespace
 
 struct UiResources::Handlers {
-    Handlers(const Answers& serviceAnswers, const QString& language)
+    Handlers(const ServiceAnswers& serviceAnswers, const QString& language, const QSize& display)
         : answers(serviceAnswers)
         , textManager(textDirectory(answers), language)
         , colors(answers.colorIniFilePath)
         , fonts(answers.fontIniFilePath)
-        , dimensions(answers.displaySizes)
+        , dimensions(std::make_unique<TarnisElementDimensionHandler>(onlyDisplay(answers.displaySizes, display)))
         , icons(answers.iconBasePath, answers.iconMappingTable)
         , texts(textManager)
     {
     }
 
-    Answers answers;
+    ServiceAnswers answers;
     TextManager textManager;
     TarnisColorHandler colors;
     TarnisFontHandler fonts;
-    TarnisElementDimensionHandler dimensions;
+    std::unique_ptr<TarnisElementDimensionHandler> dimensions;
     TarnisIconHandler icons;
     TarnisTextHandler texts; // after the text manager, which must outlive it
 };
 
 UiResources::UiResources(const QString& language)
     : language(language)
-    , handlers(std::make_unique<Handlers>(askService(), language))
+    , handlers(std::make_unique<Handlers>(askService(), language, display))
 {
 }
 
 UiResources::~UiResources() = default;
+
+void UiResources::publish()
+{
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Ui", this);
+}
+
+bool UiResources::reload(const std::function<bool(const ServiceAnswers&)>& accept)
+{
+    auto fresh = std::make_unique<Handlers>(askService(), language, display);
+    if (!accept(fresh->answers))
+        return false;
+    handlers.swap(fresh); // QML lets go of the old handlers when it hears of the new ones
+    Q_EMIT reloaded();
+    return true;
+}
+
+void UiResources::setLanguage(const QString& name)
+{
+    language = name;
+    handlers->textManager.setLanguage(name);
+}
+
+void UiResources::setDisplay(const QSize& size)
+{
+    display = size;
+    auto fresh = std::make_unique<TarnisElementDimensionHandler>(onlyDisplay(handlers->answers.displaySizes, size));
+    handlers->dimensions.swap(fresh);
+    Q_EMIT reloaded();
+}
 
 TarnisColorHandler* UiResources::colors() const
 {
@@ -88,7 +120,7 @@ TarnisFontHandler* UiResources::fonts() const
 
 TarnisElementDimensionHandler* UiResources::dimensions() const
 {
-    return &handlers->dimensions;
+    return handlers->dimensions.get();
 }
 
 TarnisTextHandler* UiResources::texts() const
@@ -101,29 +133,17 @@ TarnisIconHandler* UiResources::icons() const
     return &handlers->icons;
 }
 
-QString UiResources::problem() const
+const ServiceAnswers& UiResources::answers() const
 {
-    return handlers->answers.problem;
+    return handlers->answers;
 }
 
-QString UiResources::colorIniFilePath() const
+const TextManager& UiResources::textManager() const
 {
-    return handlers->answers.colorIniFilePath;
+    return handlers->textManager;
 }
 
-QString UiResources::fontIniFilePath() const
+QString UiResources::directory() const
 {
-    return handlers->answers.fontIniFilePath;
-}
-
-QString UiResources::iconMappingTable() const
-{
-    return handlers->answers.iconMappingTable;
-}
-
-void UiResources::reload()
-{
-    // QML lets go of the old handlers when it hears of the new ones.
-    const std::unique_ptr<Handlers> old = std::exchange(handlers, std::make_unique<Handlers>(askService(), language));
-    Q_EMIT reloaded();
+    return directoryOf(handlers->answers);
 }

@@ -1,16 +1,16 @@
+#include "Gallery/Catalogue.h"
 #include "Gallery/Dump.h"
+#include "Gallery/GalleryView.h"
 #include "Gallery/MessageLog.h"
-#include "Gallery/ResourceNames.h"
+#include "Gallery/Options.h"
+#include "Gallery/Screenshots.h"
 #include "Gallery/UiResources.h"
 
-#include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
-#include <QTimer>
 
 #include <cstdio>
-#include <cstring>
 
 namespace
 {
@@ -23,85 +23,83 @@ int fail(ExitStatus status, const QString& message)
     return status;
 }
 
-int showPage(UiResources& resources, ResourceNames& names, MessageLog& log, const QString& screenshot)
+// Qt ends the process when there is no display: it shall say so in a sentence.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Ui", &resources);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Names", &names);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
-    QQmlApplicationEngine engine;
-    engine.setInitialProperties({{QStringLiteral("showsWholePage"), !screenshot.isEmpty()}});
-    engine.load(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
-    if (engine.rootObjects().isEmpty())
-        return fail(Failure, QStringLiteral("the page could not be built"));
-    if (screenshot.isEmpty())
-        return QGuiApplication::exec();
+    if (type == QtFatalMsg) {
+        fail(Failure, QStringLiteral("no display to draw on; set DISPLAY, or use --dump, which needs none. ") + text);
+        std::_Exit(Failure);
+    }
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+}
 
-    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
-    const auto takePicture = [&] {
-        if (window->grabWindow().save(screenshot))
-            QGuiApplication::quit();
-        else
-            QGuiApplication::exit(fail(Failure, QStringLiteral("cannot write %1").arg(screenshot)));
-    };
-    QObject::connect(window, &QQuickWindow::frameSwapped, window, takePicture, Qt::QueuedConnection);
-    QTimer::singleShot(20000, window, [] {
-        QGuiApplication::exit(fail(Failure, QStringLiteral("the window was not drawn within 20 s")));
-    });
-    return QGuiApplication::exec();
+int takePictures(QQuickWindow& window, GalleryView& view, const Catalogue& catalogue, const Options& options,
+                 MessageLog& log)
+{
+    Screenshots screenshots(window, view);
+    const bool isTaken = options.screenshot.isEmpty() ? screenshots.takeAll(options.screenshotDirectory, catalogue)
+                                                      : screenshots.take(options.screenshot);
+    if (!isTaken) {
+        return fail(Failure,
+                    QStringLiteral("cannot draw or write %1").arg(options.screenshot + options.screenshotDirectory));
+    }
+    const QStringList failedLookups = log.takeNew();
+    if (!failedLookups.isEmpty())
+        return fail(Failure, QStringLiteral("lookups failed:\n") + failedLookups.join(QLatin1Char('\n')));
+    return view.problem.isEmpty() ? Success : Failure;
+}
+
+int show(UiResources& resources, Catalogue& catalogue, GalleryView& view, MessageLog& log, const Options& options)
+{
+    resources.publish();
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Catalogue", &catalogue);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "View", &view);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
+    QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
+    if (engine.rootObjects().isEmpty())
+        return fail(Failure, QStringLiteral("the window could not be built"));
+    if (options.screenshot.isEmpty() && options.screenshotDirectory.isEmpty())
+        return QGuiApplication::exec();
+    return takePictures(*qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst()), view, catalogue, options, log);
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    // Without a window no display is needed, but the handlers ask for a screen.
-    for (int index = 1; index < argc; ++index) {
-        if (std::strcmp(argv[index], "--dump") == 0 && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "minimal");
-    }
+    if (Options::needsNoDisplay(argc, argv) && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "minimal"); // the handlers ask for a screen all the same
     // The same picture on every machine, with or without a GPU.
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
-    QGuiApplication application(argc, argv);
+    qInstallMessageHandler(endWithoutDisplay);
+    int nameOnly = 1; // Qt would take --display for one of its own options
+    QGuiApplication application(nameOnly, argv);
+    qInstallMessageHandler(nullptr);
     QGuiApplication::setApplicationVersion(QStringLiteral(TARNIS_VERSION));
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Shows what a device's front end would be given: every colour, font, dimension, icon and text "
-                       "that the service Module.Tarnis offers on the system bus.\n\n"
-                       "Exit status: 0 success, 1 failure (with --dump also: the service cannot be reached), "
-                       "2 wrong usage."));
-    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        QStringLiteral("Draw the page, write its picture and leave."),
-                                        QStringLiteral("FILE.png"));
-    const QCommandLineOption dumpOption(
-        QStringLiteral("dump"),
-        QStringLiteral("Print every lookup with its answer as JSON. Needs no display: unless QT_QPA_PLATFORM names "
-                       "another, the screen is one of 240x320 pixels and 96 dots per inch."));
-    const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("The language of the texts (en)."),
-                                      QStringLiteral("NAME"), QStringLiteral("en"));
-    parser.addOptions({screenshot, dumpOption, language});
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    if (!parser.parse(QGuiApplication::arguments()))
-        return fail(WrongUsage, parser.errorText());
-    if (parser.isSet(help))
-        parser.showHelp();
-    if (parser.isSet(version))
-        parser.showVersion();
-    if (!parser.positionalArguments().isEmpty())
-        return fail(WrongUsage, QStringLiteral("unexpected argument ") + parser.positionalArguments().constFirst());
+    Options options;
+    const QString wrongUsage = options.parse(argc, argv);
+    if (!wrongUsage.isEmpty())
+        return fail(WrongUsage, wrongUsage);
 
     MessageLog log;
-    UiResources resources(parser.value(language));
-    ResourceNames names(resources);
+    UiResources resources(options.language);
+    Catalogue catalogue(resources);
+    GalleryView view(resources, catalogue, log, options.language);
+    const QString unknownValue = options.check(view, catalogue);
+    if (!unknownValue.isEmpty())
+        return fail(WrongUsage, unknownValue);
+    view.setDisplay(options.display);
+    view.page = options.page;
+    view.context = options.context;
     const auto reportProblem = [&] {
-        if (!resources.problem().isEmpty())
-            fail(Failure, resources.problem());
+        if (!view.problem.isEmpty())
+            fail(Failure, view.problem);
     };
-    QObject::connect(&resources, &UiResources::reloaded, reportProblem);
+    QObject::connect(&view, &GalleryView::problemFound, reportProblem);
     reportProblem();
-    if (!parser.isSet(dumpOption))
-        return showPage(resources, names, log, parser.value(screenshot));
-    std::fputs(dump(resources, names).constData(), stdout);
-    return resources.problem().isEmpty() ? Success : Failure;
+    if (!options.isDump)
+        return show(resources, catalogue, view, log, options);
+    std::fputs(dump(resources, catalogue).constData(), stdout);
+    return view.problem.isEmpty() ? Success : Failure;
 }

@@ -1,60 +1,161 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import QtQuick.Window 2.15
 import Tarnis 1.0
+import "blocks" as Blocks
 
-// Everything that the service's resources hold, on one page.
 ApplicationWindow {
     id: window
 
-    property bool showsWholePage: false
+    readonly property var tabs: View.pages.filter(name => !name.startsWith("Device") || name === "Device")
+    readonly property var displaySize: View.display.split("x")
 
     title: "Tarnis gallery"
-    width: 1280
-    height: showsWholePage ? page.height : 800
+    width: View.display === "" ? Math.min(Screen.width, 1280) : Number(displaySize[0])
+    height: View.display === "" ? Math.min(Screen.height, 800 + bar.height) : Number(displaySize[1]) + bar.height
     visible: true
     color: "white"
 
-    Flickable {
-        anchors.fill: parent
-        contentHeight: page.height
-        focus: true
-        Keys.onUpPressed: flick(0, 1500)
-        Keys.onDownPressed: flick(0, -1500)
-        ScrollBar.vertical: ScrollBar {
-            policy: window.showsWholePage ? ScrollBar.AlwaysOff : ScrollBar.AsNeeded
-            Accessible.name: "Scroll the page"
+    header: ToolBar {
+        id: bar
+
+        height: column.implicitHeight + 6
+        background: Rectangle {
+            color: "#e4e8ec"
         }
 
         Column {
-            id: page
+            id: column
 
-            width: window.width
-            padding: 24
-            spacing: 24
+            width: parent.width
+            spacing: 4
 
-            Section {
-                title: Ui.problem
-                visible: title !== ""
-                Button {
-                    text: "Ask again"
-                    onClicked: Ui.reload()
-                }
-            }
-            ColorSection {}
-            FontSection {}
-            IconSection {}
-            DimensionSection {}
-            TextSection {}
-            Section {
-                title: "Log"
-                visible: Log.records.length > 0
+            TabBar {
+                width: parent.width
+                height: 34
+                currentIndex: window.tabs.indexOf(View.page.startsWith("Device") ? "Device" : View.page)
                 Repeater {
-                    model: Log.records
-                    Caption {
-                        width: parent.width
+                    model: window.tabs
+                    TabButton {
+                        height: 34
+                        font.pixelSize: 13
                         text: modelData
+                        onClicked: View.page = modelData
                     }
                 }
+            }
+            RowLayout {
+                x: 8
+                width: parent.width - 16
+                spacing: 8
+                TextField {
+                    id: search
+
+                    Layout.fillWidth: true
+                    implicitHeight: 32
+                    font.pixelSize: 13
+                    placeholderText: "Search"
+                    Accessible.name: "Search on this page"
+                }
+                Blocks.Choice {
+                    Layout.preferredWidth: 110
+                    label: "Language of the texts"
+                    model: Catalogue.languages
+                    value: View.language
+                    onChosen: View.language = value
+                }
+                Blocks.Choice {
+                    Layout.preferredWidth: 150
+                    label: "Context of the icons"
+                    model: Catalogue.contexts
+                    value: View.context
+                    onChosen: View.context = value
+                }
+                Blocks.Choice {
+                    Layout.preferredWidth: 130
+                    label: "Display size"
+                    model: ["real screen"].concat(Catalogue.displays)
+                    value: View.display === "" ? "real screen" : View.display
+                    onChosen: View.display = value === "real screen" ? "" : value
+                }
+            }
+        }
+    }
+
+    Rectangle {
+        id: problem
+
+        width: parent.width
+        height: visible ? Math.max(askAgain.height, problemText.height) + 12 : 0
+        visible: View.problem !== ""
+        color: "#fde7e7"
+
+        Text {
+            id: problemText
+
+            x: 12
+            y: 6
+            width: parent.width - askAgain.width - 36
+            height: Math.min(implicitHeight, 96)
+            clip: true
+            color: "#8c1d18"
+            font.pixelSize: 13
+            text: View.problem
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+        }
+        Button {
+            id: askAgain
+
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            y: 6
+            height: 32
+            text: "Ask again"
+            onClicked: View.reload()
+        }
+    }
+
+    Loader {
+        property string search: search.text
+
+        y: problem.height
+        width: parent.width
+        height: parent.height - y
+        source: (View.page.startsWith("Device") ? "Device" : View.page) + ".qml"
+    }
+
+    Rectangle {
+        id: toast
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 16
+        width: toastText.implicitWidth + 24
+        height: 32
+        radius: 16
+        visible: toastTime.running
+        color: "#203040"
+
+        Text {
+            id: toastText
+
+            anchors.centerIn: parent
+            color: "white"
+            font.pixelSize: 13
+            textFormat: Text.PlainText
+        }
+        Timer {
+            id: toastTime
+
+            interval: 2000
+        }
+        Connections {
+            target: View
+            function onCopied(text) {
+                toastText.text = "Copied: " + text
+                toastTime.restart()
             }
         }
     }

@@ -1,0 +1,68 @@
+#include "Gallery/Screenshots.h"
+
+#include "Gallery/Catalogue.h"
+#include "Gallery/GalleryView.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QImage>
+#include <QQuickWindow>
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr int mostMilliseconds = 10000;
+constexpr int settleMilliseconds = 40; // for the window system to resize, and the views to lay out
+
+void showProgress(int done, int all)
+{
+    constexpr int width = 40;
+    const QByteArray bar = QByteArray(width * done / all, '#').leftJustified(width, '.');
+    std::fprintf(stderr, "\r[%s] %d/%d%s", bar.constData(), done, all, done == all ? "\n" : "");
+}
+
+} // namespace
+
+Screenshots::Screenshots(QQuickWindow& window, GalleryView& view)
+    : window(window)
+    , view(view)
+{
+}
+
+bool Screenshots::take(const QString& path)
+{
+    const QDeadlineTimer deadline(mostMilliseconds);
+    QDeadlineTimer settled(settleMilliseconds);
+    while (!settled.hasExpired() && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, settleMilliseconds);
+        if (!window.isExposed())
+            settled = QDeadlineTimer(settleMilliseconds);
+    }
+    return window.isExposed() && window.grabWindow().save(path);
+}
+
+bool Screenshots::takeAll(const QString& directory, const Catalogue& catalogue)
+{
+    const QStringList displays = catalogue.property("displays").toStringList();
+    const QStringList languages = catalogue.property("languages").toStringList();
+    QDir().mkpath(directory);
+    const int all = view.pages.size() * displays.size() * languages.size();
+    int done = 0;
+    for (const QString& display : displays) {
+        view.setDisplay(display);
+        for (const QString& language : languages) {
+            view.setLanguage(language);
+            for (const QString& page : view.pages) {
+                view.setProperty("page", page);
+                const QString name = QStringLiteral("%1-%2-%3.png").arg(page, display, language);
+                if (!take(QDir(directory).filePath(name)))
+                    return false;
+                showProgress(++done, all);
+            }
+        }
+    }
+    return true;
+}

@@ -1,0 +1,34 @@
+import QtQuick 2.15
+import Tarnis 1.0
+import "blocks" as Blocks
+
+Blocks.Rows {
+    id: page
+
+    rows: Log.records.filter(record => record.text.toLowerCase().includes(search.toLowerCase()))
+    delegate: Blocks.Entry {
+        width: page.width
+        expression: modelData.text
+        contentItem: Row {
+            leftPadding: 8
+            spacing: 8
+            Blocks.Title {
+                width: 48
+                horizontalAlignment: Text.AlignRight
+                text: modelData.count + " ×"
+            }
+            Blocks.Caption {
+                width: page.width - 88
+                wrapMode: Text.Wrap
+                font.pixelSize: 13
+                text: modelData.text
+            }
+        }
+    }
+
+    Blocks.Caption {
+        anchors.centerIn: parent
+        visible: page.count === 0
+        text: "No records."
+    }
+}

@@ -1,0 +1,51 @@
+import QtQuick 2.15
+import Tarnis 1.0
+import "blocks" as Blocks
+
+Blocks.Rows {
+    id: page
+
+    readonly property int columnWidth: (width - 24) / (Catalogue.languages.length + 1)
+
+    rows: Catalogue.revision >= 0 ? Catalogue.texts(search) : []
+    header: Row {
+        x: 8
+        height: 28
+        Repeater {
+            model: ["URL"].concat(Catalogue.languages)
+            Blocks.Title {
+                width: page.columnWidth
+                text: modelData + (modelData === View.language ? " (shown)" : "")
+            }
+        }
+    }
+    delegate: Blocks.Entry {
+        readonly property string url: modelData
+
+        width: page.width
+        expression: 'Ui.texts.translatedTexts["' + url + '"]'
+        contentItem: Row {
+            leftPadding: 2
+            Blocks.Caption {
+                width: page.columnWidth
+                rightPadding: 6
+                wrapMode: Text.WrapAnywhere
+                text: url
+            }
+            Repeater {
+                model: Catalogue.languages
+                Blocks.Caption {
+                    readonly property bool isMissing: Catalogue.revision >= 0 && Catalogue.isTextMissing(url, modelData)
+
+                    width: page.columnWidth
+                    rightPadding: 6
+                    color: isMissing ? "#b3261e" : "#101820"
+                    font.pixelSize: 13
+                    wrapMode: Text.Wrap
+                    text: isMissing ? "missing" : modelData === View.language ? Ui.texts.translatedTexts[url]
+                                                                               : Catalogue.text(url, modelData)
+                }
+            }
+        }
+    }
+}

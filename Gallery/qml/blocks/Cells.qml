@@ -1,0 +1,23 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+
+// The same as a grid.
+GridView {
+    property var rows
+
+    onRowsChanged: {
+        const place = contentY
+        model = rows
+        forceLayout()
+        contentY = Math.max(originY, Math.min(place, originY + contentHeight - height))
+    }
+    activeFocusOnTab: true
+    clip: true
+    highlight: Highlight {}
+    highlightMoveDuration: 0
+    boundsBehavior: Flickable.StopAtBounds
+    Accessible.role: Accessible.List
+    Keys.onReturnPressed: if (currentItem) currentItem.clicked()
+    Keys.onSpacePressed: if (currentItem) currentItem.clicked()
+    ScrollBar.vertical: ScrollHandle {}
+}

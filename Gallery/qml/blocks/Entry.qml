@@ -1,0 +1,17 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnis 1.0
+
+// An entry of a list or grid. Pressing it copies the expression that QML code would use.
+AbstractButton {
+    property string expression
+
+    text: expression
+    focusPolicy: Qt.NoFocus
+    Accessible.description: "Copies the expression"
+    onClicked: View.copy(expression)
+
+    background: Rectangle {
+        color: parent.down ? "#d0dae4" : "transparent"
+    }
+}

@@ -1,0 +1,23 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+
+// A list that creates only what is seen, and keeps its place when its rows are asked for again.
+ListView {
+    property var rows
+
+    onRowsChanged: {
+        const place = contentY
+        model = rows
+        forceLayout()
+        contentY = Math.max(originY, Math.min(place, originY + contentHeight - height))
+    }
+    activeFocusOnTab: true
+    clip: true
+    highlight: Highlight {}
+    highlightMoveDuration: 0
+    boundsBehavior: Flickable.StopAtBounds
+    Accessible.role: Accessible.List
+    Keys.onReturnPressed: if (currentItem) currentItem.clicked()
+    Keys.onSpacePressed: if (currentItem) currentItem.clicked()
+    ScrollBar.vertical: ScrollHandle {}
+}
