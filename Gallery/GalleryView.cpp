@@ -1,6 +1,5 @@
 #include "Gallery/GalleryView.h"
 
-#include "Gallery/Catalogue.h"
 #include "Gallery/MessageLog.h"
 
 #include <QClipboard>
@@ -13,14 +12,13 @@ constexpr int quietMilliseconds = 150; // after the last of several changes
 
 } // namespace
 
-GalleryView::GalleryView(UiResources& resources, const Catalogue& catalogue, MessageLog& log, const QString& language)
+GalleryView::GalleryView(UiResources& resources, MessageLog& log, const QString& language)
     : pages({QStringLiteral("Device"), QStringLiteral("DeviceSettings"), QStringLiteral("DeviceDialog"),
              QStringLiteral("Colours"), QStringLiteral("Fonts"), QStringLiteral("Dimensions"), QStringLiteral("Icons"),
              QStringLiteral("Texts"), QStringLiteral("Log")})
     , page(pages.constFirst())
     , context(TarnisIconHandler::defaultContextPathKey)
     , resources(resources)
-    , catalogue(catalogue)
     , log(log)
     , languageName(language)
 {
@@ -78,11 +76,6 @@ void GalleryView::copy(const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
     Q_EMIT copied(text);
-}
-
-QString GalleryView::imageSource(const QString& url) const
-{
-    return url.isEmpty() ? url : url + QLatin1Char('#') + catalogue.property("revision").toString();
 }
 
 void GalleryView::judge(const ServiceAnswers& answers, const QStringList& faults)

@@ -9,7 +9,6 @@
 #include <QStringList>
 #include <QTimer>
 
-class Catalogue;
 class MessageLog;
 
 /// What the gallery shows at the moment, and its following of the resource directory. The QML singleton `View` of the
@@ -29,7 +28,7 @@ class GalleryView : public QObject
 
 public:
     /// The others must outlive the view.
-    GalleryView(UiResources& resources, const Catalogue& catalogue, MessageLog& log, const QString& language);
+    GalleryView(UiResources& resources, MessageLog& log, const QString& language);
 
     QString language() const;
     void setLanguage(const QString& name);
@@ -41,9 +40,6 @@ public:
 
     /// Puts the text on the clipboard and emits copied().
     Q_INVOKABLE void copy(const QString& text);
-
-    /// The URL for Qt Quick's Image: the file is read again after a reload, although its path is the same.
-    Q_INVOKABLE QString imageSource(const QString& url) const;
 
     QStringList pages;
     QString page;
@@ -59,7 +55,6 @@ private:
     void judge(const ServiceAnswers& answers, const QStringList& faults);
 
     UiResources& resources;
-    const Catalogue& catalogue;
     MessageLog& log;
     QString languageName;
     QString displayName;

@@ -67,8 +67,11 @@ int show(UiResources& resources, Catalogue& catalogue, GalleryView& view, Messag
 
 int main(int argc, char* argv[])
 {
-    if (Options::needsNoDisplay(argc, argv) && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "minimal"); // the handlers ask for a screen all the same
+    if (Options::needsNoDisplay(argc, argv) && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        // The handlers ask for a screen all the same.
+        qputenv("QT_QPA_PLATFORM", "minimal");
+        qputenv("QT_FONT_DPI", "96");
+    }
     // The same picture on every machine, with or without a GPU.
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     qInstallMessageHandler(endWithoutDisplay);
@@ -85,7 +88,7 @@ int main(int argc, char* argv[])
     MessageLog log;
     UiResources resources(options.language);
     Catalogue catalogue(resources);
-    GalleryView view(resources, catalogue, log, options.language);
+    GalleryView view(resources, log, options.language);
     const QString unknownValue = options.check(view, catalogue);
     if (!unknownValue.isEmpty())
         return fail(WrongUsage, unknownValue);

@@ -72,7 +72,8 @@ Flickable {
         width: size
         height: size
         sourceSize: Qt.size(size, size)
-        source: View.imageSource(Ui.icons.getIconPathAsFileUrl(alias, View.context))
+        // The fragment makes Image read a file again that was replaced under the same path.
+        source: Ui.icons.getIconPathAsFileUrl(alias, View.context) + "#" + Catalogue.revision
     }
 
     component RoundButton: AbstractButton {

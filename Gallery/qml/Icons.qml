@@ -30,7 +30,7 @@ Blocks.Cells {
                 Image {
                     anchors.centerIn: parent
                     sourceSize: Qt.size(48, 48)
-                    source: View.imageSource(url)
+                    source: url === "" ? "" : url + "#" + Catalogue.revision
                 }
             }
             Blocks.Title {

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
+import Tarnis 1.0
 
 // A list that creates only what is seen, and keeps its place when its rows are asked for again.
 ListView {
@@ -17,6 +18,7 @@ ListView {
     highlightMoveDuration: 0
     boundsBehavior: Flickable.StopAtBounds
     Accessible.role: Accessible.List
+    Accessible.name: View.page
     Keys.onReturnPressed: if (currentItem) currentItem.clicked()
     Keys.onSpacePressed: if (currentItem) currentItem.clicked()
     ScrollBar.vertical: ScrollHandle {}
