@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Configures and builds one preset: build.sh dev|release|ci
+# Configures and builds one preset: build.sh dev|release|ci [TARGET...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
-mkdir -p "build/$1"
-cmake --preset "$1" >"build/$1/configure.log" || { cat "build/$1/configure.log" >&2; exit 1; }
-cmake --build --preset "$1"
+preset=$1
+mkdir -p "build/$preset"
+cmake --preset "$preset" >"build/$preset/configure.log" || { cat "build/$preset/configure.log" >&2; exit 1; }
+cmake --build --preset "$preset" ${2:+--target "${@:2}"}

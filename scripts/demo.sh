@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh
-./scripts/build.sh release
+./scripts/build.sh release tarnis-module tarnis-gallery
 
 mkdir -p build/demo
 processes=()
@@ -30,9 +30,15 @@ if [ -n "${DISPLAY:-}" ]; then
 fi
 
 start Xvfb -displayfd 1 -dpi 96 -screen 0 1280x800x24 -nolisten tcp
-for language in en ja; do
-  DISPLAY=":$line" "$gallery" --language "$language" --screenshot "build/demo/gallery-$language.png"
-  echo "build/demo/gallery-$language.png"
+export DISPLAY=":$line"
+take() {
+  "$gallery" --screenshot "build/demo/$1" "${@:2}" 2>>build/demo/processes.log
+  echo "build/demo/$1"
+}
+take device.png
+take device-night-ja.png --display 800x480 --language ja --context nightMode
+for page in Colours Fonts Dimensions Icons Texts; do
+  take "${page,,}.png" --page "$page"
 done
-"$gallery" --dump >build/demo/gallery.json
-echo "build/demo/gallery.json"
+"$gallery" --dump >build/demo/lookups.json
+echo "build/demo/lookups.json"
