@@ -311,9 +311,9 @@ private Q_SLOTS:
         for (QQuickItem* item : items())
             grid = item->inherits("QQuickGridView") ? item : grid;
         auto* cells = grid->property("contentItem").value<QQuickItem*>();
-        const double end = grid->property("contentHeight").toDouble() - grid->height();
+        const int end = qRound(grid->property("contentHeight").toDouble() - grid->height());
         QVERIFY(end > 50000);
-        for (double place = 0; place < end; place += grid->height()) {
+        for (int place = 0; place < end; place += qRound(grid->height())) {
             grid->setProperty("contentY", place);
             QCoreApplication::processEvents();
             QVERIFY(cells->childItems().size() > 20 && cells->childItems().size() < 500);

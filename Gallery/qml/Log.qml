@@ -25,10 +25,4 @@ Blocks.Rows {
             }
         }
     }
-
-    Blocks.Caption {
-        anchors.centerIn: parent
-        visible: page.count === 0
-        text: "No records."
-    }
 }

@@ -4,6 +4,8 @@ import Tarnis 1.0
 
 // The same as a grid.
 GridView {
+    id: view
+
     property var rows
 
     onRowsChanged: {
@@ -22,4 +24,11 @@ GridView {
     Keys.onReturnPressed: if (currentItem) currentItem.clicked()
     Keys.onSpacePressed: if (currentItem) currentItem.clicked()
     ScrollBar.vertical: ScrollHandle {}
+
+    Caption {
+        parent: view
+        anchors.centerIn: parent
+        visible: view.count === 0
+        text: "Nothing to show."
+    }
 }

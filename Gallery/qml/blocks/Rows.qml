@@ -4,6 +4,8 @@ import Tarnis 1.0
 
 // A list that creates only what is seen, and keeps its place when its rows are asked for again.
 ListView {
+    id: view
+
     property var rows
 
     onRowsChanged: {
@@ -22,4 +24,11 @@ ListView {
     Keys.onReturnPressed: if (currentItem) currentItem.clicked()
     Keys.onSpacePressed: if (currentItem) currentItem.clicked()
     ScrollBar.vertical: ScrollHandle {}
+
+    Caption {
+        parent: view
+        anchors.centerIn: parent
+        visible: view.count === 0
+        text: "Nothing to show."
+    }
 }
