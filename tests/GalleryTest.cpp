@@ -1,6 +1,7 @@
 #include "Gallery/Catalogue.h"
 #include "Gallery/GalleryView.h"
 #include "Gallery/MessageLog.h"
+#include "tests/support/Rows.h"
 #include "tests/support/TestProcess.h"
 
 #include <QGuiApplication>
@@ -15,12 +16,37 @@
 #include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <optional>
 
 namespace
 {
+
+// A page, a file that it shows, and an edit of it; but for texts, the colour #fe01fd appears.
+const Rows edits{
+    "Colours | colors.ini           | #0b7a75       | #fe01fd",
+    "Icons   | icons/mapping.json   | day/alarm.svg | new.svg",
+    "Icons   | icons/day/alarm.svg  | #1f2a37       | #fe01fd",
+    "Texts   | texts/en.json        | \"Good\"      | \"Edited\"",
+};
+// A file and what is left of it; nothing: it is removed.
+const Rows brokenFiles{
+    "colors.ini         | [Day]\nAccent=#fe01fd\nBack",
+    "icons/mapping.json | {\"home\": {",
+    "texts/en.json      | {\"text://Air/Good\": \"G",
+    "fonts.ini          |",
+};
+// Arguments, exit status, and the beginning of the message.
+const Rows wrongUses{
+    "--what        | 2 | Unknown option 'what'",
+    "what --dump   | 2 | unexpected argument \"what\"",
+    "--page x      | 2 | unknown page \"x\"; there are: Device, ",
+    "--language x  | 2 | unknown language \"x\"; there are: de, de_AT, en, fr, ja",
+    "--context x   | 2 | unknown context \"x\"; there are: defaultContext, nightMode",
+    "--display 1x1 | 2 | unknown display size \"1x1\"; there are: 800x480, 1024x600, 1280x800",
+    "--page Log    | 1 | no display to draw on",
+    "--dump        | 1 | The service Module.Tarnis cannot be reached",
+};
 
 QJsonObject readJson(const QString& path)
 {
@@ -70,12 +96,8 @@ QVariantMap expectedDump(const QString& directory, const QString& language)
 
 int count(const QImage& picture, QRgb color)
 {
-    int pixels = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        pixels += static_cast<int>(std::count(line, line + picture.width(), color));
-    }
-    return pixels;
+    const auto* pixels = reinterpret_cast<const QRgb*>(picture.constBits());
+    return static_cast<int>(std::count(pixels, pixels + picture.width() * picture.height(), color));
 }
 
 void collect(QQuickItem* item, QList<QQuickItem*>& items)
@@ -128,29 +150,6 @@ private:
         return QGuiApplication::primaryScreen()->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
     }
 
-    void replace(const QString& name, const QByteArray& before, const QByteArray& after)
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QByteArray content = file.readAll();
-        QVERIFY(content.contains(before));
-        file.close();
-        writeFile(path(name), content.replace(before, after));
-    }
-
-    void switchScreen(int width, int height)
-    {
-        const QString mode = QString("%1x%2").arg(width).arg(height);
-        QStringList timings{"--newmode", mode, "30"};
-        for (const int pixels : {width, height}) {
-            for (int blank = 0; blank < 4; ++blank)
-                timings.append(QString::number(pixels + blank));
-        }
-        run("xrandr", timings); // fails when the mode is known
-        run("xrandr", {"--addmode", "screen", mode});
-        QCOMPARE(run("xrandr", {"--output", "screen", "--mode", mode}).exitStatus, 0);
-    }
-
 private Q_SLOTS:
     void init() { directory.emplace(); }
 
@@ -165,16 +164,11 @@ private Q_SLOTS:
         qputenv("DISPLAY", display.toUtf8());
     }
 
-    void dumpEqualsAnIndependentReading_data()
-    {
-        QTest::addColumn<QString>("language");
-        for (const char* language : {"en", "de_AT", "ja"})
-            QTest::newRow(language) << language;
-    }
+    void dumpEqualsAnIndependentReading_data() { addRows({"en", "de_AT", "ja"}); }
 
     void dumpEqualsAnIndependentReading()
     {
-        QFETCH(QString, language);
+        const auto [language] = cells<1>();
         startModule(RESOURCES);
         qputenv("DISPLAY", "");
         const Outcome outcome = run(TARNIS_GALLERY, {"--dump", "--language", language});
@@ -210,33 +204,16 @@ private Q_SLOTS:
         // The header of the device, beside its button: as high as the dimension file of the display says.
         const auto headerHeight = [&] { return count(screen().copy(4, 0, 1, 800), surface); };
         QTRY_COMPARE_WITH_TIMEOUT(headerHeight(), 76 - 2, 10000);
-        switchScreen(800, 480);
+        QVERIFY(switchScreen(800, 480));
         QTRY_COMPARE_WITH_TIMEOUT(headerHeight(), 52 - 1, 10000);
-        switchScreen(1280, 800);
+        QVERIFY(switchScreen(1280, 800));
     }
 
-    void editedFileIsSeen_data()
-    {
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::newRow("colour") << "Colours"
-                                << "colors.ini" << QByteArray("#0b7a75") << QByteArray("#fe01fd");
-        QTest::newRow("icon path") << "Icons"
-                                   << "icons/mapping.json" << QByteArray("day/alarm.svg") << QByteArray("new.svg");
-        QTest::newRow("icon file") << "Icons"
-                                   << "icons/day/alarm.svg" << QByteArray("#1f2a37") << QByteArray("#fe01fd");
-        QTest::newRow("text") << "Texts"
-                              << "texts/en.json" << QByteArray("\"Good\"") << QByteArray("\"Edited\"");
-    }
+    void editedFileIsSeen_data() { addRows(edits); }
 
     void editedFileIsSeen()
     {
-        QFETCH(QString, page);
-        QFETCH(QString, name);
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
+        const auto [page, name, before, after] = cells<4>();
         startGallery(page);
         writeFile(path("icons/new.svg"),
                   "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 9 9\">"
@@ -244,27 +221,18 @@ private Q_SLOTS:
         QImage drawn;
         QTRY_VERIFY_WITH_TIMEOUT(std::exchange(drawn, screen()) == screen() && count(drawn, 0xFFE4E8EC) > 1000, 10000);
         QCOMPARE(count(drawn, 0xFFFE01FD), 0);
-        replace(name, before, after);
+        QCOMPARE(run("sed", {"-i", QString("s|%1|%2|").arg(before, after), path(name)}).exitStatus, 0);
         if (page == "Texts")
             QTRY_VERIFY_WITH_TIMEOUT(screen() != drawn, 2000);
         else
             QTRY_VERIFY_WITH_TIMEOUT(count(screen(), 0xFFFE01FD) > 20, 2000);
     }
 
-    void brokenFileLeavesTheLastGoodViewAndIsSaid_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::newRow("half an INI file") << "colors.ini" << QByteArray("[Day]\nAccent=#fe01fd\nBack");
-        QTest::newRow("half a mapping table") << "icons/mapping.json" << QByteArray("{\"home\": {");
-        QTest::newRow("half a catalogue") << "texts/en.json" << QByteArray("{\"text://Air/Good\": \"G");
-        QTest::newRow("no fonts") << "fonts.ini" << QByteArray();
-    }
+    void brokenFileLeavesTheLastGoodViewAndIsSaid_data() { addRows(brokenFiles); }
 
     void brokenFileLeavesTheLastGoodViewAndIsSaid()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, content);
+        const auto [name, content] = cells<2>();
         startGallery("Colours");
         const QRgb accent = 0xFF0B7A75;
         const QRgb banner = 0xFFFDE7E7;
@@ -272,7 +240,7 @@ private Q_SLOTS:
         QCOMPARE(count(screen(), banner), 0);
         QFile::rename(path(name), path("kept"));
         if (!content.isEmpty())
-            writeFile(path(name), content);
+            writeFile(path(name), content.toUtf8());
         QTRY_VERIFY_WITH_TIMEOUT(count(screen(), banner) > 1000, 5000);
         QVERIFY(count(screen(), accent) > 4000);
         QFile::remove(path(name));
@@ -358,34 +326,18 @@ private Q_SLOTS:
         QVERIFY(bad.errors.contains("wifi.svg"));
     }
 
-    void wrongUseIsRefusedInASentence_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArray>("message");
-        QTest::newRow("option") << QStringList{"--what"} << 2 << QByteArray("what");
-        QTest::newRow("argument") << QStringList{"what", "--dump"} << 2 << QByteArray("what");
-        QTest::newRow("page") << QStringList{"--page", "x"} << 2 << QByteArray("there are: Device, ");
-        QTest::newRow("language") << QStringList{"--language", "x"} << 2 << QByteArray("there are: de, de_AT, en");
-        QTest::newRow("context") << QStringList{"--context", "x"} << 2 << QByteArray("defaultContext, nightMode");
-        QTest::newRow("display") << QStringList{"--display", "1x1"} << 2 << QByteArray("800x480, 1024x600");
-        QTest::newRow("no display") << QStringList{"--page", "Log"} << 1 << QByteArray("no display to draw on");
-        QTest::newRow("no service") << QStringList{"--dump"} << 1
-                                    << QByteArray("service Module.Tarnis cannot be reached");
-    }
+    void wrongUseIsRefusedInASentence_data() { addRows(wrongUses); }
 
     void wrongUseIsRefusedInASentence()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, status);
-        QFETCH(QByteArray, message);
-        if (!message.startsWith("service"))
+        const auto [arguments, status, message] = cells<3>();
+        if (!message.startsWith("The service"))
             startModule(RESOURCES);
         if (message.startsWith("no display"))
             qputenv("DISPLAY", ":no");
-        const Outcome outcome = run(TARNIS_GALLERY, arguments);
-        QCOMPARE(outcome.exitStatus, status);
-        QVERIFY2(outcome.errors.contains("tarnis-gallery: ") && outcome.errors.contains(message), outcome.errors);
+        const Outcome outcome = run(TARNIS_GALLERY, arguments.split(' '));
+        QCOMPARE(outcome.exitStatus, status.toInt());
+        QVERIFY2(outcome.errors.contains("tarnis-gallery: " + message.toUtf8()), outcome.errors);
     }
 };
 

@@ -1,17 +1,27 @@
 #pragma once
 
+#include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 
 /// A program that is started, is ready when it has printed its first line, and is killed at the end.
-class TestProcess
-{
-public:
-    TestProcess(const QString& program, const QStringList& arguments);
-    ~TestProcess();
+struct TestProcess {
+    TestProcess(const QString& program, const QStringList& arguments)
+    {
+        child.setStandardErrorFile(QProcess::nullDevice());
+        child.start(program, arguments);
+        while (!child.canReadLine() && child.waitForReadyRead(10000)) { }
+        line = QString::fromUtf8(child.readLine()).trimmed();
+    }
+    ~TestProcess()
+    {
+        child.kill();
+        child.waitForFinished();
+    }
 
     /// The first line that it printed; empty if there was none within 10 s.
-    QString firstLine() const;
-    QProcess& process();
+    QString firstLine() const { return line; }
+    QProcess& process() { return child; }
 
 private:
     QProcess child;
@@ -20,22 +30,41 @@ private:
 
 /// A bus of the test's own, which is the system bus of this process and its children. Qt connects a process to it
 /// once: have one for the whole test.
-class PrivateBus
-{
-public:
-    PrivateBus();
+struct PrivateBus {
+    PrivateBus() { qputenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine().toUtf8()); }
 
-private:
-    TestProcess daemon;
+    TestProcess daemon{"dbus-daemon",
+                       {"--config-file", TEST_BUS_CONFIGURATION, "--nofork", "--nopidfile", "--print-address"}};
 };
 
-/// Runs a program to its end, for 30 s at the most.
+/// Runs a program to its end, or kills it after 30 s (then, and after a crash, the exit status is -1).
 struct Outcome {
     int exitStatus;
     QByteArray output;
     QByteArray errors;
 };
-Outcome run(const QString& program, const QStringList& arguments);
+inline Outcome run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    const bool isNormal = process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit;
+    return {isNormal ? process.exitCode() : -1, process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+/// Gives the X screen of `DISPLAY` another size.
+inline bool switchScreen(int width, int height)
+{
+    const QString switchTo = "xrandr --newmode m$0 30 $0 $(($0+1)) $(($0+2)) $(($0+3)) $1 $(($1+1)) $(($1+2)) "
+                             "$(($1+3)) && xrandr --addmode screen m$0 && xrandr --output screen --mode m$0";
+    return run("sh", {"-c", switchTo, QString::number(width), QString::number(height)}).exitStatus == 0;
+}
 
 /// Writes a file, and the folders above it; gives its path.
-QString writeFile(const QString& path, const QByteArray& content);
+inline QString writeFile(const QString& path, const QByteArray& content)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
