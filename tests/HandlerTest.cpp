@@ -47,8 +47,8 @@ const Rows expressions{
     "TarnisFontHandler.getFontPointSize('T', 'Normal') * dotsPerInch / 72 | 16",
     "TarnisFontHandler.getFontPointSize('T', 'Half') * dotsPerInch / 72 | 12.5",
     "TarnisFontHandler.getFontPointSize('T', 'Large') | 0 | No font size for key \"Large\" in font group \"T\"",
-    "TarnisFontHandler.getFontPointSize('T', 'Word') "
-    "| 0 | Expected font size for key \"Word\" in font group \"T\" to be a number!",
+    ("TarnisFontHandler.getFontPointSize('T', 'Word') "
+     "| 0 | Expected font size for key \"Word\" in font group \"T\" to be a number!"),
     "TarnisIconHandler.getIconPath('arrow') | DIR/icons/day/a b%.svg",
     "TarnisIconHandler.getIconPath('arrow', 'nightMode') | DIR/icons/night/a.svg",
     "TarnisIconHandler.getIconPath('arrow', 'NightMode') | DIR/icons/day/a b%.svg",
@@ -200,8 +200,7 @@ private Q_SLOTS:
     void nearestDisplaySizeIsTheFirstAtTheLeastDistance()
     {
         LogRecorder log; // the reader's, of files that are missing
-        const DisplaySizes near{
-            {{800, 480}, "first"}, {{1024, 600}, "large"}, {{800, 480}, "second"}, {{-1, -2}, "least"}};
+        const DisplaySizes near{{{800, 480}, "first"}, {{1024, 600}, "big"}, {{800, 480}, "second"}, {{-1, -2}, "no"}};
         const DisplaySizes far{
             {{INT_MIN, INT_MIN}, "beyond"}, {{INT_MAX, INT_MIN}, "wide"}, {{INT_MAX, INT_MAX - 9}, "huge"}};
         const TarnisElementDimensionHandler handler(near + far);
@@ -210,17 +209,16 @@ private Q_SLOTS:
         for (const QSize screen :
              {QSize(800, 480), QSize(1000, 600), QSize(912, 540), QSize(600, 1024), QSize(INT_MAX, INT_MAX), QSize()})
             found.append(handler.nearestNeighbourScreenSize(screen).second);
-        QCOMPARE(found.join(' '), "first large first first huge least");
+        QCOMPARE(found.join(' '), "first big first first huge no");
     }
 
     void dimensionsFollowTheScreen()
     {
-        const QString small = writeFile(
-            "small.ini", "t=1\n[B]\nh=-48\na=wide\nb=1.5\nc=0x10\nd=\ne=4 px\nf=2147483648\n[a/b]\nc=1\n[a]\nb/c=2\n");
-        const QString large = writeFile("large.ini", "[Button]\nheight=64\n");
+        writeFile("low", "t=1\n[B]\nh=-48\na=wide\nb=1.5\nc=0x10\nd=\ne=4 px\nf=2147483648\n[a/b]\nc=1\n[a]\nb/c=2");
+        writeFile("high", "[Button]\nheight=64\n");
         LogRecorder log;
         QVERIFY(TarnisElementDimensionHandler({}).uiElementDimensions().isEmpty());
-        TarnisElementDimensionHandler handler({{{800, 480}, small}, {{1280, 800}, large}, {{3000, 100}, "none.ini"}});
+        TarnisElementDimensionHandler handler({{{800, 480}, "low"}, {{1280, 800}, "high"}, {{3000, 100}, "none"}});
         QSignalSpy changed(&handler, &TarnisElementDimensionHandler::uiElementDimensionsChanged);
         QCOMPARE(handler.uiElementDimensions(), (QVariantMap{{"Button/height", 64}}));
         QCOMPARE(handler.uiElementDimensions().value("Button/height").userType(), int(QMetaType::Int));

@@ -72,7 +72,6 @@ private Q_SLOTS:
         QVERIFY(!fonts.getFontFamily("none").isNull());
         QCOMPARE(fonts.getFontPointSize("g", "k"), 12.0);
         TarnisElementDimensionHandler dimensions({{{1, 1}, "d.ini"}});
-        QVERIFY(dimensions.uiElementDimensions().isEmpty());
         dimensions.loadUiElementDimensions({{1, 1}, "d.ini"});
         QCOMPARE(dimensions.uiElementDimensions(), (QVariantMap{{"G/k", 17}}));
         QCOMPARE(calls.join("; "),

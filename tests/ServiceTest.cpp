@@ -163,7 +163,7 @@ int serve()
     bus.registerVirtualObject("/", &service, QDBusConnection::SubPath);
     bus.registerService("Module.Tarnis");
     std::cout << "ready" << std::endl;
-    QTimer::singleShot(60000, QCoreApplication::instance(), &QCoreApplication::quit);
+    QTimer::singleShot(60000, QCoreApplication::instance(), SLOT(quit()));
     return QCoreApplication::exec();
 }
 
@@ -207,9 +207,8 @@ class ServiceTest : public QObject
     void startModule()
     {
         directory.emplace();
-        shell("mkdir icons dimensions; touch fonts.ini colors.ini; "
-              "cd dimensions; touch 1024x600.ini 800x600.ini notes.txt 800x480.ini; cd ../icons; echo '{\"a\": {}}' > "
-              "mapping.json; echo '{ }' > mapping.night.json");
+        shell("mkdir icons dimensions; touch fonts.ini colors.ini; cd dimensions; touch 1024x600.ini 800x600.ini "
+              "x.txt 800x480.ini; cd ../icons; echo '{\"a\": {}}' > mapping.json; echo '{ }' > mapping.night.json");
         module.emplace(TARNIS_MODULE, QStringList{"--resources", directory->path()});
         QCOMPARE(module->firstLine(), "Module.Tarnis publishes " + directory->path());
     }
