@@ -100,11 +100,12 @@ int count(const QImage& picture, QRgb color)
     return static_cast<int>(std::count(pixels, pixels + picture.sizeInBytes() / 4, color));
 }
 
-void collect(QQuickItem* item, QList<QQuickItem*>& items)
+QList<QQuickItem*> itemsOf(const QQuickWindow& window)
 {
-    items.append(item);
-    for (QQuickItem* child : item->childItems())
-        collect(child, items);
+    QList<QQuickItem*> items{window.contentItem()};
+    for (int index = 0; index < items.size(); ++index)
+        items += items.at(index)->childItems();
+    return items;
 }
 
 } // namespace
@@ -148,6 +149,51 @@ private:
     static QImage screen()
     {
         return QGuiApplication::primaryScreen()->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    // The icon page from top to end, and back to the middle.
+    static void scrollThrough(QQuickWindow& window, GalleryView& view)
+    {
+        QQuickItem* grid = nullptr;
+        for (QQuickItem* item : itemsOf(window))
+            grid = item->inherits("QQuickGridView") ? item : grid;
+        auto* cells = grid->property("contentItem").value<QQuickItem*>();
+        const int end = qRound(grid->property("contentHeight").toDouble() - grid->height());
+        QVERIFY(end > 50000);
+        for (int place = 0; place < end; place += qRound(grid->height())) {
+            grid->setProperty("contentY", place);
+            QCoreApplication::processEvents();
+            QVERIFY(cells->childItems().size() > 20 && cells->childItems().size() < 500);
+        }
+        grid->setProperty("contentY", end / 2);
+        view.reload();
+        QCOMPARE(grid->property("contentY").toInt(), end / 2);
+    }
+
+    // Every page by the tab key.
+    static void tabThrough(QQuickWindow& window, GalleryView& view)
+    {
+        for (const QString& page : view.pages) {
+            view.setProperty("page", page);
+            QTest::qWait(20); // the items of the page before go with the event loop
+            QSet<QQuickItem*> reached;
+            for (int tab = 0; tab < 30; ++tab) {
+                QTest::keyClick(&window, Qt::Key_Tab);
+                reached.insert(window.activeFocusItem());
+            }
+            for (QQuickItem* item : itemsOf(window)) {
+                if (!item->isVisible() || !item->isEnabled() || !item->activeFocusOnTab())
+                    continue;
+                const bool isReached = std::any_of(reached.begin(), reached.end(), [item](QQuickItem* focused) {
+                    return focused == item || item->isAncestorOf(focused);
+                });
+                QVERIFY2(isReached, qPrintable(page + item->metaObject()->className()));
+                const QString name = item->inherits("QQuickAbstractButton")
+                    ? item->property("text").toString()
+                    : QQmlProperty(item, "Accessible.name", qmlContext(&window)).read().toString();
+                QVERIFY2(!name.isEmpty(), item->metaObject()->className());
+            }
+        }
     }
 
 private Q_SLOTS:
@@ -270,46 +316,8 @@ private Q_SLOTS:
         auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
         window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(window));
-        const auto items = [&] {
-            QList<QQuickItem*> all;
-            collect(window->contentItem(), all);
-            return all;
-        };
-        QQuickItem* grid = nullptr;
-        for (QQuickItem* item : items())
-            grid = item->inherits("QQuickGridView") ? item : grid;
-        auto* cells = grid->property("contentItem").value<QQuickItem*>();
-        const int end = qRound(grid->property("contentHeight").toDouble() - grid->height());
-        QVERIFY(end > 50000);
-        for (int place = 0; place < end; place += qRound(grid->height())) {
-            grid->setProperty("contentY", place);
-            QCoreApplication::processEvents();
-            QVERIFY(cells->childItems().size() > 20 && cells->childItems().size() < 500);
-        }
-        grid->setProperty("contentY", end / 2);
-        view.reload();
-        QCOMPARE(grid->property("contentY").toInt(), end / 2);
-        for (const QString& page : view.pages) {
-            view.setProperty("page", page);
-            QTest::qWait(20); // the items of the page before go with the event loop
-            QSet<QQuickItem*> reached;
-            for (int tab = 0; tab < 30; ++tab) {
-                QTest::keyClick(window, Qt::Key_Tab);
-                reached.insert(window->activeFocusItem());
-            }
-            for (QQuickItem* item : items()) {
-                if (!item->isVisible() || !item->isEnabled() || !item->activeFocusOnTab())
-                    continue;
-                const bool isReached = std::any_of(reached.begin(), reached.end(), [item](QQuickItem* focused) {
-                    return focused == item || item->isAncestorOf(focused);
-                });
-                QVERIFY2(isReached, qPrintable(page + item->metaObject()->className()));
-                const QString name = item->inherits("QQuickAbstractButton")
-                    ? item->property("text").toString()
-                    : QQmlProperty(item, "Accessible.name", qmlContext(window)).read().toString();
-                QVERIFY2(!name.isEmpty(), item->metaObject()->className());
-            }
-        }
+        scrollThrough(*window, view);
+        tabThrough(*window, view);
     }
 
     void everyPageIsPicturedAndAFailedLookupIsTold()
