@@ -4,6 +4,9 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 /// A program that is started, is ready when it has printed its first line, and is killed at the end.
 struct TestProcess {
     TestProcess(const QString& program, const QStringList& arguments)
@@ -24,7 +27,10 @@ struct TestProcess {
     QProcess& process() { return child; }
 
 private:
-    QProcess child;
+    // It does not outlive a test that was killed.
+    struct Child : QProcess {
+        void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
+    } child;
     QString line;
 };
 
