@@ -12,7 +12,7 @@ constexpr int quietMilliseconds = 150; // after the last of several changes
 
 } // namespace
 
-GalleryView::GalleryView(UiResources& resources, MessageLog& log, const QString& language)
+GalleryView::GalleryView(UiResources& resources, MessageLog& log)
     : pages({QStringLiteral("Device"), QStringLiteral("DeviceSettings"), QStringLiteral("DeviceDialog"),
              QStringLiteral("Colours"), QStringLiteral("Fonts"), QStringLiteral("Dimensions"), QStringLiteral("Icons"),
              QStringLiteral("Texts"), QStringLiteral("Log")})
@@ -20,7 +20,6 @@ GalleryView::GalleryView(UiResources& resources, MessageLog& log, const QString&
     , context(TarnisIconHandler::defaultContextPathKey)
     , resources(resources)
     , log(log)
-    , languageName(language)
 {
     judge(resources.answers(), log.takeNew());
     watcher.watch(resources.directory());
@@ -32,14 +31,13 @@ GalleryView::GalleryView(UiResources& resources, MessageLog& log, const QString&
 
 QString GalleryView::language() const
 {
-    return languageName;
+    return resources.textManager().getLanguageName();
 }
 
 void GalleryView::setLanguage(const QString& name)
 {
-    if (name == languageName)
+    if (name == language())
         return;
-    languageName = name;
     resources.setLanguage(name);
     Q_EMIT changed();
 }
@@ -86,5 +84,5 @@ void GalleryView::judge(const ServiceAnswers& answers, const QStringList& faults
     if (problem.isEmpty())
         hasGoodView = true;
     else
-        Q_EMIT problemFound(problem);
+        Q_EMIT problemFound();
 }

@@ -28,7 +28,7 @@ class GalleryView : public QObject
 
 public:
     /// The others must outlive the view.
-    GalleryView(UiResources& resources, MessageLog& log, const QString& language);
+    GalleryView(UiResources& resources, MessageLog& log);
 
     QString language() const;
     void setLanguage(const QString& name);
@@ -49,14 +49,13 @@ public:
 Q_SIGNALS:
     void changed();
     void copied(const QString& text);
-    void problemFound(const QString& text);
+    void problemFound();
 
 private:
     void judge(const ServiceAnswers& answers, const QStringList& faults);
 
     UiResources& resources;
     MessageLog& log;
-    QString languageName;
     QString displayName;
     bool hasGoodView = false;
     DirectoryWatcher watcher;

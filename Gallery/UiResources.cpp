@@ -72,8 +72,7 @@ struct UiResources::Handlers {
 };
 
 UiResources::UiResources(const QString& language)
-    : language(language)
-    , handlers(std::make_unique<Handlers>(askService(), language, display))
+    : handlers(std::make_unique<Handlers>(askService(), language, display))
 {
 }
 
@@ -86,7 +85,7 @@ void UiResources::publish()
 
 bool UiResources::reload(const std::function<bool(const ServiceAnswers&)>& accept)
 {
-    auto fresh = std::make_unique<Handlers>(askService(), language, display);
+    auto fresh = std::make_unique<Handlers>(askService(), textManager().getLanguageName(), display);
     if (!accept(fresh->answers))
         return false;
     handlers.swap(fresh); // QML lets go of the old handlers when it hears of the new ones
@@ -96,7 +95,6 @@ bool UiResources::reload(const std::function<bool(const ServiceAnswers&)>& accep
 
 void UiResources::setLanguage(const QString& name)
 {
-    language = name;
     handlers->textManager.setLanguage(name);
 }
 

@@ -71,7 +71,6 @@ Q_SIGNALS:
 private:
     struct Handlers;
 
-    QString language;
     QSize display;
     std::unique_ptr<Handlers> handlers;
 };

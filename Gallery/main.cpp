@@ -88,7 +88,7 @@ int main(int argc, char* argv[])
     MessageLog log;
     UiResources resources(options.language);
     Catalogue catalogue(resources);
-    GalleryView view(resources, log, options.language);
+    GalleryView view(resources, log);
     const QString unknownValue = options.check(view, catalogue);
     if (!unknownValue.isEmpty())
         return fail(WrongUsage, unknownValue);

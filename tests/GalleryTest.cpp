@@ -244,9 +244,9 @@ private Q_SLOTS:
     void devicePageFollowsTheRealScreen()
     {
         startGallery("Device");
-        const QRgb surface = 0xFFF9FBFC;
-        // The header of the device, beside its button: as high as the dimension file of the display says.
-        const auto headerHeight = [&] { return count(screen().copy(4, 0, 1, 800), surface); };
+        // The header of the device in the colour Surface, beside its button: as high as the dimension file of the
+        // display says.
+        const auto headerHeight = [&] { return count(screen().copy(4, 0, 1, 800), 0xFFF9FBFC); };
         QTRY_COMPARE_WITH_TIMEOUT(headerHeight(), 76 - 2, 10000);
         QVERIFY(switchScreen(800, 480));
         QTRY_COMPARE_WITH_TIMEOUT(headerHeight(), 52 - 1, 10000);
@@ -304,7 +304,7 @@ private Q_SLOTS:
         MessageLog log;
         UiResources resources("en");
         Catalogue catalogue(resources);
-        GalleryView view(resources, log, "en");
+        GalleryView view(resources, log);
         view.page = "Icons";
         resources.publish();
         qmlRegisterSingletonInstance("Tarnis", 1, 0, "Catalogue", &catalogue);
@@ -325,7 +325,6 @@ private Q_SLOTS:
         startModule(directory->path());
         const Outcome good = run(TARNIS_GALLERY, {"--screenshot-all", path("all")});
         QVERIFY2(good.exitStatus == 0, good.errors);
-        QVERIFY(good.errors.contains("18/18"));
         QCOMPARE(QDir(path("all")).entryList({"*-800x480-en.png", "*-800x480-ja.png"}).size(), 18);
         QVERIFY(QFile::remove(path("icons/day/wifi.svg")));
         const Outcome bad = run(TARNIS_GALLERY, {"--screenshot", path("one.png")});
