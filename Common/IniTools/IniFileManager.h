@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QHash>
+#include "Common/IniTools/IniParser.h"
+
 #include <QList>
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 
 /// Reader of one INI file: parsed once, in the constructor, and answered from memory. The grammar is IniParser's.
@@ -35,13 +35,5 @@ public:
     QList<QString> getChildKeys(const QString& group) const;
 
 private:
-    struct Group {
-        QStringList keys;
-        QHash<QString, QString> values;
-    };
-
-    const QString* find(const QString& group, const QString& key) const;
-
-    QStringList groupNames;
-    QHash<QString, Group> groups;
+    IniParser parser;
 };

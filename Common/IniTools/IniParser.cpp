@@ -9,7 +9,7 @@ namespace
 
 QString unquoted(const QStringRef& value)
 {
-    const bool isQuoted = value.size() >= 2 && value.startsWith(QLatin1Char('"')) && value.endsWith(QLatin1Char('"'));
+    const bool isQuoted = value.size() >= 2 && value.front() == QLatin1Char('"') && value.back() == QLatin1Char('"');
     return (isQuoted ? value.mid(1, value.size() - 2) : value).toString();
 }
 
@@ -18,9 +18,14 @@ QString unquoted(const QStringRef& value)
 IniParser::IniParser(const QByteArray& content, QTextCodec& codec)
 {
     const QString text = decode(content, codec);
+    entryList.reserve(text.count(QLatin1Char('=')));
     int number = 0;
-    for (const QStringRef& line : text.splitRef(QLatin1Char('\n')))
-        parseLine(line.trimmed(), ++number);
+    for (int begin = 0; begin < text.size();) {
+        const int newline = text.indexOf(QLatin1Char('\n'), begin);
+        const int end = newline < 0 ? text.size() : newline;
+        parseLine(text.midRef(begin, end - begin).trimmed(), ++number);
+        begin = end + 1;
+    }
     std::stable_sort(faultList.begin(), faultList.end(),
                      [](const Fault& left, const Fault& right) { return left.line < right.line; });
 }
@@ -30,9 +35,19 @@ const QStringList& IniParser::groups() const
     return groupNames;
 }
 
-const QVector<IniParser::Entry>& IniParser::entries() const
+QStringList IniParser::keys(const QString& group) const
 {
-    return entryList;
+    return groupKeys.value(groupIndices.value(group, noGroup));
+}
+
+const QVector<IniEntry>& IniParser::entries() const
+{
+    return entryList.list();
+}
+
+const IniEntry* IniParser::find(const QString& group, const QString& key) const
+{
+    return entryList.find(group, key);
 }
 
 const QVector<IniParser::Fault>& IniParser::faults() const
@@ -40,8 +55,15 @@ const QVector<IniParser::Fault>& IniParser::faults() const
     return faultList;
 }
 
-// Line by line, so that undecodable bytes are reported where they stand.
 QString IniParser::decode(const QByteArray& content, QTextCodec& codec)
+{
+    QTextCodec::ConverterState state;
+    const QString text = codec.toUnicode(content.constData(), content.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0 ? text : decodeLines(content, codec);
+}
+
+// Line by line, so that undecodable bytes are reported where they stand.
+QString IniParser::decodeLines(const QByteArray& content, QTextCodec& codec)
 {
     QString text;
     QTextCodec::ConverterState state;
@@ -65,9 +87,9 @@ QString IniParser::decode(const QByteArray& content, QTextCodec& codec)
 
 void IniParser::parseLine(const QStringRef& line, int number)
 {
-    if (line.isEmpty() || line.startsWith(QLatin1Char(';')) || line.startsWith(QLatin1Char('#')))
+    if (line.isEmpty() || line.front() == QLatin1Char(';') || line.front() == QLatin1Char('#'))
         return;
-    if (line.startsWith(QLatin1Char('[')))
+    if (line.front() == QLatin1Char('['))
         parseGroupLine(line, number);
     else
         parseEntryLine(line, number);
@@ -97,22 +119,25 @@ void IniParser::parseEntryLine(const QStringRef& line, int number)
     }
     if (!groupIsUsable)
         return;
-    enterGroup(currentGroup);
-    const QPair<QString, QString> name(currentGroup, key);
-    if (knownKeys.contains(name))
+    if (currentGroup == noGroup)
+        enterGroup(QLatin1String(""));
+    const QString& group = groupNames.at(currentGroup);
+    if (entryList.append({group, key, unquoted(line.mid(equals + 1).trimmed()), number}))
+        groupKeys[currentGroup].append(key);
+    else
         addFault(number,
-                 QStringLiteral("key \"%1\" given again in group \"%2\"; the last value holds").arg(key, currentGroup));
-    knownKeys.insert(name);
-    entryList.append({currentGroup, key, unquoted(line.mid(equals + 1).trimmed()), number});
+                 QStringLiteral("key \"%1\" given again in group \"%2\"; the last value holds").arg(key, group));
 }
 
 void IniParser::enterGroup(const QString& name)
 {
-    currentGroup = name;
-    if (knownGroups.contains(name))
+    currentGroup = groupIndices.value(name, noGroup);
+    if (currentGroup != noGroup)
         return;
-    knownGroups.insert(name);
+    currentGroup = groupNames.size();
+    groupIndices.insert(name, currentGroup);
     groupNames.append(name);
+    groupKeys.append(QStringList());
 }
 
 void IniParser::addFault(int line, const QString& reason)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Common/IniTools/IniEntries.h"
+
 #include <QByteArray>
-#include <QPair>
-#include <QSet>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -19,25 +20,27 @@ class QTextCodec;
 class Q_DECL_EXPORT IniParser
 {
 public:
-    struct Entry {
-        QString group;
-        QString key;
-        QString value;
-        int line;
-    };
-
     struct Fault {
         int line;
         QString reason;
     };
 
+    /// As of an empty file.
+    IniParser() = default;
     IniParser(const QByteArray& content, QTextCodec& codec);
 
     /// The groups in the order in which they are first named, those without an entry included.
     const QStringList& groups() const;
 
+    /// The keys of the group in the order in which they are first named; empty for an unknown group.
+    QStringList keys(const QString& group) const;
+
     /// The entries in the order of the file. A key given again in its group is here again, and a fault besides.
-    const QVector<Entry>& entries() const;
+    const QVector<IniEntry>& entries() const;
+
+    /// The entry of the key in the group, the last one if it is given again; null if there is none. Lives as long as
+    /// this object.
+    const IniEntry* find(const QString& group, const QString& key) const;
 
     /// In the order of their lines: a line that is none of the above, an empty key name, a key given again, a group
     /// line without its end (entries are then left out until the next group line), bytes that are no text in the
@@ -46,6 +49,7 @@ public:
 
 private:
     QString decode(const QByteArray& content, QTextCodec& codec);
+    QString decodeLines(const QByteArray& content, QTextCodec& codec);
     void parseLine(const QStringRef& line, int number);
     void parseGroupLine(const QStringRef& line, int number);
     void parseEntryLine(const QStringRef& line, int number);
@@ -53,10 +57,12 @@ private:
     void addFault(int line, const QString& reason);
 
     QStringList groupNames;
-    QVector<Entry> entryList;
+    QVector<QStringList> groupKeys; // by index in groupNames
+    QHash<QString, int> groupIndices;
+    IniEntries entryList;
     QVector<Fault> faultList;
-    QSet<QString> knownGroups;
-    QSet<QPair<QString, QString>> knownKeys;
-    QString currentGroup;
+    int currentGroup = noGroup;
     bool groupIsUsable = true;
+
+    static constexpr int noGroup = -1; // before the first group line and entry
 };
