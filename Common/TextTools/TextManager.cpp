@@ -55,15 +55,14 @@ QString TextManager::getLanguageName() const
 
 QList<QString> TextManager::getAvailableUrls(const QString& languageFilename) const
 {
-    return catalogue(languageFilename).keys();
+    return catalogue(languageFilename).urls;
 }
 
 QString TextManager::getText(const QString& url, const QString& languageName) const
 {
-    for (const QString& filename : fallbackFilenames(languageName)) {
-        const Catalogue& texts = catalogue(filename);
-        const auto text = texts.constFind(url);
-        if (text != texts.constEnd())
+    for (const Catalogue& catalogue : fallbackChain(languageName).catalogues) {
+        const auto text = catalogue.texts.constFind(url);
+        if (text != catalogue.texts.constEnd())
             return *text;
     }
     return url;
@@ -73,8 +72,18 @@ void TextManager::load(const QString& name)
 {
     language = name;
     catalogues.clear();
-    for (const QString& filename : fallbackFilenames(name))
-        catalogue(filename);
+    lastChain = FallbackChain();
+    fallbackChain(name);
+}
+
+const TextManager::FallbackChain& TextManager::fallbackChain(const QString& languageName) const
+{
+    if (lastChain.catalogues.isEmpty() || lastChain.language != languageName) {
+        lastChain = {languageName, {}};
+        for (const QString& filename : fallbackFilenames(languageName))
+            lastChain.catalogues.append(catalogue(filename));
+    }
+    return lastChain;
 }
 
 const TextManager::Catalogue& TextManager::catalogue(const QString& filename) const
@@ -87,13 +96,13 @@ const TextManager::Catalogue& TextManager::catalogue(const QString& filename) co
 
 TextManager::Catalogue TextManager::readCatalogue(const QString& filename) const
 {
-    Catalogue texts;
+    Catalogue result;
     const QString path = QDir(directory).filePath(filename);
     QString reason;
     const QByteArray content = RegularFile::readAll(path, reason);
     if (!reason.isNull()) {
         qCWarning(platformText).noquote().nospace() << "Cannot read \"" << path << "\": " << reason;
-        return texts;
+        return result;
     }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(content, &error);
@@ -103,10 +112,15 @@ TextManager::Catalogue TextManager::readCatalogue(const QString& filename) const
         qCWarning(platformText).noquote().nospace() << path << ": not a JSON object";
     const QJsonObject object = document.object();
     for (auto member = object.begin(); member != object.end(); ++member) {
-        if (member->isString())
-            texts.insert(member.key(), member->toString());
-        else
-            qCWarning(platformText).noquote().nospace() << path << ": \"" << member.key() << "\" is not a string";
+        const QString url = member.key();
+        const QJsonValue text = member.value();
+        if (text.isString()) {
+            result.urls.append(url);
+            result.texts.insert(url, text.toString());
+        } else {
+            qCWarning(platformText).noquote().nospace() << path << ": \"" << url << "\" is not a string";
+        }
     }
-    return texts;
+    result.urls.sort();
+    return result;
 }

@@ -3,6 +3,8 @@
 #include "Common/TextTools/TextManagerBase.h"
 
 #include <QHash>
+#include <QStringList>
+#include <QVector>
 
 /// The text catalogue of a directory of `LANGUAGE.json` files, each one flat object of text URL to text.
 ///
@@ -30,13 +32,24 @@ public:
     QString getText(const QString& url, const QString& languageName) const override;
 
 private:
-    using Catalogue = QMap<QString, QString>;
+    struct Catalogue {
+        QStringList urls; // sorted
+        QHash<QString, QString> texts;
+    };
+
+    /// The catalogues in which a text of the language is looked for, in this order.
+    struct FallbackChain {
+        QString language;
+        QVector<Catalogue> catalogues;
+    };
 
     void load(const QString& name);
     const Catalogue& catalogue(const QString& filename) const;
     Catalogue readCatalogue(const QString& filename) const;
+    const FallbackChain& fallbackChain(const QString& languageName) const;
 
     QString directory;
     QString language;
     mutable QHash<QString, Catalogue> catalogues;
+    mutable FallbackChain lastChain; // texts are asked for one language at a time
 };

@@ -21,7 +21,8 @@ void TarnisTextHandler::updateTexts()
     const TextManagerBase& catalogue = textManager;
     const QString language = catalogue.getLanguageName();
     const QList<QString> urls = catalogue.getAvailableUrls(LanguageDefinitions::getSecondFallbackLanguageFilename());
+    // A catalogue lists its URLs in order as a rule: then each belongs at the end of the map.
     for (const QString& url : urls)
-        texts.insert(url, catalogue.getText(url, language));
+        texts.insert(texts.constEnd(), url, catalogue.getText(url, language));
     Q_EMIT translatedTextsChanged();
 }
