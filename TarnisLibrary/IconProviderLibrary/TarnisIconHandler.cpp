@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QJsonDocument>
+#include <QStringBuilder>
 
 const QString TarnisIconHandler::defaultContextPathKey = QStringLiteral("defaultContext");
 
@@ -34,7 +35,7 @@ QString TarnisIconHandler::getIconPath(const QString& aliasName, const QString& 
         qWarning() << "Unknown context (" << defaultContextPathKey << ")";
         return QString();
     }
-    QString path = iconBaseDirectory.absolutePath() + QLatin1Char('/') + *relativePath;
+    QString path = iconBaseDirectory.absolutePath() % QLatin1Char('/') % *relativePath;
     if (!QFile::exists(path)) {
         qWarning() << "Icon file" << path << "does not exist";
         return QString();
@@ -45,44 +46,53 @@ QString TarnisIconHandler::getIconPath(const QString& aliasName, const QString& 
 QString TarnisIconHandler::getIconPathAsFileUrl(const QString& aliasName, const QString& context) const
 {
     const QString path = getIconPath(aliasName, context);
-    return path.isEmpty() ? path : QStringLiteral("file:") + path;
+    return path.isEmpty() ? path : QStringLiteral("file:") % path;
 }
 
+// A QJsonObject yields its members in the order of their names: each belongs at the end of the map.
 TarnisIconHandler::IconMap TarnisIconHandler::parseMappingTable(const QString& mappingTable) const
 {
     IconMap icons;
-    const QJsonDocument document = QJsonDocument::fromJson(mappingTable.toUtf8());
+    QJsonDocument document = QJsonDocument::fromJson(mappingTable.toUtf8());
     if (!document.isObject()) {
         qWarning() << "Failed to parse icon mapping json!"
                    << "Invalid json.";
         return icons;
     }
     QJsonObject aliases = document.object();
-    for (auto alias = aliases.begin(); alias != aliases.end(); ++alias)
-        icons.insert(alias.key(), extractContextBaseMapping(alias.value()));
+    document = QJsonDocument(); // or the first change of the object would copy it
+    for (auto alias = aliases.begin(); alias != aliases.end(); ++alias) {
+        QJsonValueRef contexts = alias.value();
+        icons.insert(icons.constEnd(), alias.key(), extractContextBaseMapping(contexts));
+        contexts = QJsonValue(); // gives its memory back before the next one takes more
+    }
     return icons;
 }
 
 TarnisIconHandler::ContextMap TarnisIconHandler::extractContextBaseMapping(const QJsonValueRef& contexts) const
 {
     ContextMap paths;
-    if (!contexts.isObject()) {
+    const QJsonValue value = contexts;
+    if (!value.isObject()) {
         qWarning() << "Failed to parse icon mapping json!"
                    << "Ivalid json.";
         return paths;
     }
-    const QJsonObject members = contexts.toObject();
+    const QJsonObject members = value.toObject();
     for (auto member = members.constBegin(); member != members.constEnd(); ++member) {
         const QPair<QString, QString> context = extractOneContext(member);
-        paths.insert(context.first, context.second);
+        paths.insert(paths.constEnd(), context.first, context.second);
     }
     return paths;
 }
 
 QPair<QString, QString> TarnisIconHandler::extractOneContext(const QJsonObject::const_iterator& context) const
 {
-    if (context->isString())
-        return {context.key(), context->toString()};
+    const QJsonValue value = context.value();
+    if (value.isString()) {
+        const QString name = context.key();
+        return {name == defaultContextPathKey ? defaultContextPathKey : name, value.toString()};
+    }
     qWarning() << "Failed to parse icon mapping json!"
                << "Expected relative path to be of type string.";
     return {QString(), QString()};
