@@ -5,8 +5,10 @@
 #include <QDebug>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QStringBuilder>
 
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace
@@ -18,6 +20,21 @@ double distance(const QSize& left, const QSize& right)
     const double dx = static_cast<double>(left.width()) - right.width();
     const double dy = static_cast<double>(left.height()) - right.height();
     return std::sqrt(dx * dx + dy * dy);
+}
+
+// 0 when there is none.
+int nearestIndex(const QList<QPair<QSize, QString>>& displaySizes, const QSize& screenSize)
+{
+    int nearest = 0;
+    double leastDistance = std::numeric_limits<double>::infinity();
+    for (int index = 0; index < displaySizes.size(); ++index) {
+        const double currentDistance = distance(displaySizes.at(index).first, screenSize);
+        if (currentDistance < leastDistance) {
+            leastDistance = currentDistance;
+            nearest = index;
+        }
+    }
+    return nearest;
 }
 
 } // namespace
@@ -43,37 +60,34 @@ const QVariantMap& TarnisElementDimensionHandler::uiElementDimensions() const
 
 QPair<QSize, QString> TarnisElementDimensionHandler::nearestNeighbourScreenSize(const QSize& screenSize) const
 {
-    int nearest = 0;
-    double leastDistance = std::numeric_limits<double>::infinity();
-    for (int index = 0; index < supportedDisplaySizes.size(); ++index) {
-        const double currentDistance = distance(supportedDisplaySizes.at(index).first, screenSize);
-        if (currentDistance < leastDistance) {
-            leastDistance = currentDistance;
-            nearest = index;
-        }
-    }
-    return supportedDisplaySizes.value(nearest);
+    return supportedDisplaySizes.value(nearestIndex(supportedDisplaySizes, screenSize));
 }
 
 void TarnisElementDimensionHandler::loadUiElementDimensions(const QPair<QSize, QString>& displaySize)
 {
     const IniFileManager dimensionFile(displaySize.second, nullptr);
     dimensions = QVariantMap();
+    // As a rule the keys of a group stand in order: then each belongs behind the one before.
+    QVariantMap::const_iterator position = dimensions.constEnd();
     const QList<QString> groups = dimensionFile.getGroups();
     for (const QString& group : groups) {
         const QList<QString> keys = dimensionFile.getChildKeys(group);
-        for (const QString& key : keys)
-            dimensions.insert(group + QLatin1Char('/') + key, dimensionFile.getValueInteger(group, key, 0));
+        for (const QString& key : keys) {
+            const int value = dimensionFile.getValueInteger(group, key, 0);
+            position = std::next(dimensions.insert(position, group % QLatin1Char('/') % key, value));
+        }
     }
     Q_EMIT uiElementDimensionsChanged();
 }
 
 void TarnisElementDimensionHandler::onScreenGeometryChanged(const QRect& geometry)
 {
-    // Without any entry, the nearest is the invalid size with which the current one begins: nothing is loaded.
-    const QPair<QSize, QString> nearest = nearestNeighbourScreenSize(geometry.size());
+    if (supportedDisplaySizes.isEmpty())
+        return;
+    // Not copied: most events keep the entry.
+    const auto& nearest = supportedDisplaySizes.at(nearestIndex(supportedDisplaySizes, geometry.size()));
     if (nearest == currentDisplaySize)
         return;
     currentDisplaySize = nearest;
-    loadUiElementDimensions(nearest);
+    loadUiElementDimensions(currentDisplaySize);
 }
