@@ -17,7 +17,7 @@ target_compile_definitions(TarnisBuildSettings INTERFACE
     QT_NO_KEYWORDS
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 target_compile_options(TarnisBuildSettings INTERFACE
-    -Wall -Wextra -Wnon-virtual-dtor -Woverloaded-virtual
+    -fno-plt -Wall -Wextra -Wnon-virtual-dtor -Woverloaded-virtual
     $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>
     # Log records name files relative to this repository.
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
