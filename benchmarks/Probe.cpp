@@ -1,0 +1,86 @@
+// Does one thing COUNT times between two marks, for strace and callgrind to count what it costs: Probe SUBJECT COUNT
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
+#include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
+#include "benchmarks/Icons.h"
+
+#include <KIconLoader>
+#include <KIconTheme>
+
+#include <QGuiApplication>
+#include <QIcon>
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include <unistd.h>
+
+namespace
+{
+
+// Callgrind collects within this function, strace's records begin and end with a write to nowhere.
+[[gnu::noinline]] void measured(const std::function<void(int)>& subject, int count)
+{
+    [[maybe_unused]] auto begin = write(-1, "begin", 5);
+    for (int index = 0; index < count; ++index)
+        subject(index);
+    [[maybe_unused]] auto end = write(-1, "end", 3);
+}
+
+void coldQIcon(const QString& name)
+{
+    QIcon::setThemeSearchPaths({breezeIcons});
+    QIcon::setThemeName(QStringLiteral("breeze"));
+    [[maybe_unused]] const bool isNull = QIcon::fromTheme(name).isNull(); // looks for the file
+}
+
+std::map<std::string, std::function<void(int)>> makeSubjects()
+{
+    static const TarnisColorHandler colors(RESOURCES "/colors.ini", nullptr);
+    static const TarnisFontHandler fonts(RESOURCES "/fonts.ini", nullptr);
+    static const TarnisIconHandler icons(breezeIcons, readBreezeTable());
+    static TarnisElementDimensionHandler dimensions({{QSize(1280, 800), RESOURCES "/dimensions/1280x800.ini"},
+                                                     {QSize(800, 480), RESOURCES "/dimensions/800x480.ini"}});
+    static const Icon icon = readIcons().constFirst();
+    static const KIconLoader loader;
+    static const QString day = "Day";
+    static const QString accent = "Accent";
+    static const QString unknown = "NoSuchName";
+    static const QString text = "Text";
+    static const QString normal = "Normal";
+    return {
+        {"getColor", [](int) { colors.getColor(day, accent); }},
+        {"getColor-miss", [](int) { colors.getColor(day, unknown); }},
+        {"getFontFamily", [](int) { fonts.getFontFamily(text); }},
+        {"getFontPointSize", [](int) { fonts.getFontPointSize(text, normal); }},
+        {"getIconPath", [](int) { icons.getIconPath(icon.alias); }},
+        {"getIconPathAsFileUrl", [](int) { icons.getIconPathAsFileUrl(icon.alias); }},
+        {"geometry-event", [](int index) { dimensions.onScreenGeometryChanged(QRect(index, 0, 1280, 800)); }},
+        {"uiElementDimensions", [](int) { dimensions.property("uiElementDimensions"); }},
+        {"QFile-exists", [](int) { QFile::exists(icon.path); }},
+        {"QIcon-warm", [](int) { [[maybe_unused]] const bool isNull = QIcon::fromTheme(icon.name).isNull(); }},
+        {"QIcon-cold", [](int) { coldQIcon(icon.name); }},
+        {"KIconLoader-warm", [](int) { loader.iconPath(icon.name, KIconLoader::Toolbar, true); }},
+        {"KIconLoader-cold", [](int) { KIconLoader().iconPath(icon.name, KIconLoader::Toolbar, true); }},
+    };
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QGuiApplication application(argc, argv);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    KIconTheme::forceThemeForTests("breeze");
+    QIcon::setThemeSearchPaths({breezeIcons});
+    QIcon::setThemeName("breeze");
+    const auto subjects = makeSubjects();
+    const auto subject = subjects.find(argc == 3 ? argv[1] : "");
+    if (subject == subjects.end())
+        qFatal("usage: Probe SUBJECT COUNT");
+    subject->second(0); // what is read once is read before
+    measured(subject->second, QByteArray(argv[2]).toInt());
+    return 0;
+}

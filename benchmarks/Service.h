@@ -1,0 +1,24 @@
+#pragma once
+
+#include "tests/support/TestProcess.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+/// The module on a bus of its own, which is the system bus of this process.
+struct Service {
+    explicit Service(const QString& resources)
+        : module(TARNIS_MODULE, {"--resources", resources})
+    {
+        if (module.firstLine().isEmpty())
+            qFatal("tarnis-module did not start");
+    }
+
+    PrivateBus bus;
+    TestProcess module;
+};
+
+inline QDBusMessage methodCall(const QString& object, const QString& method)
+{
+    return QDBusMessage::createMethodCall("Module.Tarnis", "/Tarnis/" + object, "Interface." + object, method);
+}

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# Measures the library against its alternatives, side by side: benchmark.sh [--quick]
+# Leaves build/benchmark/report.md with its plots. Fails when a lookup costs over 5 % more instructions than
+# benchmarks/instructions.txt says. --quick runs everything briefly, without the largest sizes.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+export QT_QPA_PLATFORM=minimal QT_LOGGING_RULES='kf.*=false'
+options=(--benchmark_enable_random_interleaving=true --benchmark_out_format=json)
+case ${1:-} in
+  '') options+=(--benchmark_repetitions=15 --benchmark_min_time=0.05) ;;
+  --quick) options+=(--benchmark_repetitions=7 --benchmark_min_time=0.002 --benchmark_filter='-/(100000|1000000)(/|$)') ;;
+  *) echo "usage: $0 [--quick]" >&2; exit 2 ;;
+esac
+
+./scripts/install-dependencies.sh --benchmark
+./scripts/breeze-resources.sh >/dev/null
+cmake --preset release -DTARNIS_BENCHMARKS=ON >/dev/null
+./scripts/build.sh release
+programs=build/release/benchmarks
+results=build/benchmark
+rm -rf "$results"
+mkdir -p "$results"
+
+for program in "$programs"/*Benchmark; do
+  name=$(basename "$program" Benchmark)
+  echo "$name"
+  "$program" "${options[@]}" --benchmark_out="$results/$name.json" >"$results/$name.log" 2>&1 ||
+    { cat "$results/$name.log" >&2; exit 1; }
+done
+
+echo "System calls"
+for subject in getIconPath QFile-exists QIcon-warm QIcon-cold KIconLoader-warm KIconLoader-cold geometry-event; do
+  strace -o "$results/strace.log" "$programs/Probe" "$subject" 10
+  calls=$(awk '/write\(-1, "end"/ { exit } begun { ++calls } /write\(-1, "begin"/ { begun = 1 } END { print calls / 10 }' \
+    "$results/strace.log")
+  echo "$subject $calls" >>"$results/system-calls.txt"
+done
+
+echo "Instructions"
+for subject in getColor getColor-miss getFontFamily getFontPointSize getIconPath getIconPathAsFileUrl \
+  uiElementDimensions geometry-event; do
+  QT_HASH_SEED=0 LD_BIND_NOW=1 valgrind --tool=callgrind --callgrind-out-file=/dev/null --collect-atstart=no \
+    --toggle-collect='*measured*' "$programs/Probe" "$subject" 100 >"$results/callgrind.log" 2>&1
+  echo "$subject $(awk '/Collected :/ { print int($4 / 100) }' "$results/callgrind.log")" >>"$results/instructions.txt"
+done
+
+echo "Cost of the library"
+library=build/release/TarnisLibrary/libTarnisLibrary.so
+strip -o "$results/stripped.so" "$library"
+{
+  echo "stripped size (bytes) $(stat -Lc %s "$results/stripped.so")"
+  echo "relocations $(readelf -rW "$library" | grep -c R_)"
+  echo "exported symbols $(nm -D --defined-only "$library" | wc -l)"
+} >"$results/library.txt"
+for _ in $(seq 11); do
+  LD_BIND_NOW=1 "$programs/BareHost" "$library" >>"$results/bare-host.txt"
+  LD_BIND_NOW=1 "$programs/LibraryHost" >>"$results/library-host.txt"
+done
+
+/usr/bin/python3 benchmarks/report.py "$results" benchmarks/instructions.txt
