@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing: install-dependencies.sh [--lint] [--benchmark]
+# Installs the Debian packages that are missing: install-dependencies.sh [--lint] [--benchmark] [--valgrind]
 # --lint adds what CI needs besides: the second compiler, the formatter and the linter.
-# --benchmark adds the benchmarks' library, what they compare with, and what counts and draws.
+# --valgrind adds valgrind; --benchmark adds the benchmarks' library, what they compare with, and what counts and draws.
 set -euo pipefail
 
 packages=(
@@ -9,14 +9,15 @@ packages=(
   qtbase5-dev qtdeclarative5-dev
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
   libqt5svg5 fonts-inter fonts-dejavu-core fonts-ipaexfont-gothic
-  dbus-daemon libdbus-1-dev pkg-config xvfb x11-xserver-utils python3
+  dbus-daemon libdbus-1-dev pkg-config systemd xvfb x11-xserver-utils python3
 )
 for option in "$@"; do
   case $option in
     --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy) ;;
+    --valgrind) packages+=(valgrind libc6-dbg) ;;
     --benchmark) packages+=(
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev
-      strace valgrind binutils python3-matplotlib
+      strace valgrind libc6-dbg binutils python3-matplotlib
     ) ;;
     *) echo "Unknown option: $option" >&2; exit 2 ;;
   esac

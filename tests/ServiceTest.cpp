@@ -1,7 +1,6 @@
 // The connectors against the service: tarnis-module, and this program once more in its place.
 
-#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
-#include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
+#include "tests/support/Getters.h"
 #include "tests/support/LogRecorder.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestProcess.h"
@@ -17,89 +16,6 @@
 
 namespace
 {
-
-using DisplaySizes = QList<QPair<QSize, QString>>;
-
-// What the service answers, and what the getters make of it: a text or sizes (null: not that), or an error.
-struct Scenario {
-    QVariantList answer;
-    QString text = {};
-    QString sizes = {};
-    QString recordError = {};
-    QString callError = {};
-};
-
-QVariant record(const QVariant& value, const QString& error = QString())
-{
-    DBusReply reply;
-    error.isNull() ? reply.setValue(value) : reply.setError(7, error);
-    return QVariant::fromValue(QDBusVariant(QVariant::fromValue(reply)));
-}
-
-const QString wrongRecord = "Unexpected D-Bus reply record: found signature \"%1\", expected \"(bisv)\"";
-const QString wrongReply = "Unexpected reply signature: got %1, expected \"v\" (QDBusVariant)";
-const QString noReply =
-    "Did not receive a reply. Possible causes include: the remote application did not send a reply, the message bus "
-    "security policy blocked the reply, the reply timeout expired, or the network connection was broken.";
-const DisplaySizes threeSizes{{{800, 480}, "/b"}, {{-1, 0}, ""}, {{800, 480}, "/a"}};
-const QMap<QString, Scenario> scenarios{
-    {"text", {{record("/x/y.ini")}, "/x/y.ini"}},
-    {"empty text", {{record("")}, ""}},
-    {"number", {{record(-42)}, "-42"}},
-    {"boolean", {{record(true)}, "true"}},
-    {"byte array", {{record(QByteArray("bytes"))}, "bytes"}},
-    {"two values", {{record("first"), "second"}, "first"}},
-    {"array of strings", {{record(QStringList{"one"})}}},
-    {"structure", {{record(QSize(1, 2))}}},
-    {"dictionary", {{record(QVariantMap{{"key", 1}})}}},
-    {"variant", {{record(QVariant::fromValue(QDBusVariant("inner")))}}},
-    {"object path", {{record(QVariant::fromValue(QDBusObjectPath("/x")))}}},
-    {"array of numbers", {{record(QVariant::fromValue(QList<int>{1, 2}))}}},
-    {"array of other structures", {{record(QVariant::fromValue(QList<QSize>{{1, 2}}))}}},
-    {"no sizes", {{record(QVariant::fromValue(DisplaySizes()))}, {}, ""}},
-    {"sizes", {{record(QVariant::fromValue(threeSizes))}, {}, "800x480 /b;-1x0 ;800x480 /a;"}},
-    {"error record", {{record("", "no \"such\" file")}, {}, {}, "no \"such\" file"}},
-    {"other record", {{QVariant::fromValue(QDBusVariant(QSize(1, 2)))}, {}, {}, wrongRecord.arg("(ii)")}},
-    {"no record", {{QVariant::fromValue(QDBusVariant("text"))}, {}, {}, wrongRecord.arg("")}},
-    {"no variant", {{"text"}, {}, {}, {}, wrongReply.arg("\"s\" (QString)")}},
-    {"nothing", {{}, {}, {}, {}, wrongReply.arg("\"<empty signature>\"")}},
-    {"D-Bus error", {{}, {}, {}, {}, "out of order"}},
-    {"death", {{record("")}, "", {}, {}, "Message recipient disconnected from message bus without replying"}},
-    {"silence", {{record("")}, "", {}, {}, noReply}},
-};
-
-const QString convert = "TarnisDeviceUiResourcesDBusConnector::convertDBusReplyToString: ";
-const QString icons = "TarnisIconProviderDBusConnector::";
-const QString lastMethod = "getSupportedScreenSizes";
-// The methods that the getters call, who logs their failure, and what they are to fetch.
-const QString getters[][3] = {
-    {"getFontIniFilePath", convert, "path to fonts ini file"},
-    {"getColorIniFilePath", convert, "path to colors ini file"},
-    {"getIconResourcesBasePath", icons + "getIconResourcesBasePath: ", "base path to icon resources"},
-    {"getIconResourcesMappingTable", icons + "getIconResourcesMappingTable: ", "mapping table"},
-    {lastMethod, "TarnisDeviceUiResourcesDBusConnector::getSupportedDisplaySizes: ", "supported display sizes"},
-};
-
-// The records that calls of all getters leave, without the backslashes of their quotation.
-QStringList expectedRecords(const Scenario& scenario)
-{
-    QStringList records;
-    for (const auto& [method, function, subject] : getters) {
-        const bool isLast = method == lastMethod;
-        QString error = scenario.recordError;
-        if (!(isLast ? scenario.sizes : scenario.text).isNull())
-            continue;
-        if (!scenario.callError.isNull()) {
-            error = "D-Bus call to method " + method + " failed: " + scenario.callError + '!';
-            for (int time = 0; time < 2; ++time)
-                records += "DBusConnectorBase::syncCallHelper: \"" + error + '"';
-        }
-        const QString failed = "Fetching %1 failed with the follwoing error: \"" + error + '"';
-        const QString mismatch = isLast ? "Unable to extract %1 from dbus reply" : "Expected %1 to be of type string!";
-        records += function + (error.isNull() ? mismatch : failed).arg(subject);
-    }
-    return records;
-}
 
 const Rows wrongAddresses{
     "       | Object | Some.Interface | system  | Module.",
@@ -137,27 +53,15 @@ struct FakeService : QDBusVirtualObject {
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
     {
-        const bool isLast = message.member() == lastMethod;
-        if (scenario == "death" && isLast)
-            _exit(0);
-        if (scenario == "silence" && isLast)
-            return true;
-        if (scenario == "D-Bus error")
-            return connection.send(message.createErrorReply("Test.Error", "out of order"));
-        const QVariant echo = record(message.signature() + ':' + message.arguments().value(0).toString());
-        return connection.send(
-            message.createReply(scenario == "echo" ? QVariantList{echo} : scenarios[scenario].answer));
+        DBusReply echo;
+        echo.setValue(message.signature() + ':' + message.arguments().value(0).toString());
+        return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(echo)))));
     }
-
-    const QString scenario = QCoreApplication::arguments().last();
 };
 
 int serve()
 {
     qDBusRegisterMetaType<DBusReply>();
-    qDBusRegisterMetaType<QList<QSize>>();
-    qDBusRegisterMetaType<QPair<QSize, QString>>();
-    qDBusRegisterMetaType<DisplaySizes>();
     FakeService service;
     QDBusConnection bus = QDBusConnection::systemBus();
     bus.registerVirtualObject("/", &service, QDBusConnection::SubPath);
@@ -173,35 +77,15 @@ class ServiceTest : public QObject
 {
     Q_OBJECT
 
-    static TestProcess serve(const QString& scenario)
-    {
-        return {QCoreApplication::applicationFilePath(), {"serve", scenario}};
-    }
+    static TestProcess serve() { return {QCoreApplication::applicationFilePath(), {"serve"}}; }
 
     // What the getters give, in their order.
     QStringList ask() const
     {
-        QStringList answers{resources.getFontIniFilePath(), resources.getColorIniFilePath(),
-                            icons.getIconResourcesBasePath(), icons.getIconResourcesMappingTable(""), ""};
-        for (const auto& [size, path] : resources.getSupportedDisplaySizes())
-            answers.last() += QString("%1x%2 %3;").arg(size.width()).arg(size.height()).arg(path);
+        QStringList answers;
+        for (int getter = 0; getter < 5; ++getter)
+            answers += connectors.ask(getter);
         return answers;
-    }
-
-    // Calls every getter, and compares results, records and signals with what the scenario says.
-    void compareGetters(const Scenario& scenario) const
-    {
-        LogRecorder log;
-        QSignalSpy resourceErrors(&resources, &DBusConnectorBase::dBusConnectionError);
-        QSignalSpy iconErrors(&icons, &DBusConnectorBase::dBusConnectionError);
-        const QStringList answers = ask();
-        QCOMPARE(answers, QStringList({scenario.text, scenario.text, scenario.text, scenario.text, scenario.sizes}));
-        for (int index = 0; index < 4; ++index)
-            QCOMPARE(answers[index].isNull(), scenario.text.isNull());
-        const QStringList records = expectedRecords(scenario);
-        QCOMPARE(log.take().replaceInStrings("\\", ""), records);
-        QCOMPARE(resourceErrors.count() + iconErrors.count(), records.filter("syncCallHelper").count() / 2);
-        QVERIFY(icons.isDBusInterfaceValid() && icons.getInvalidDBusInterfaceMessage().isEmpty());
     }
 
     void startModule()
@@ -220,34 +104,26 @@ class ServiceTest : public QObject
     }
 
     PrivateBus bus;
-    const TarnisDeviceUiResourcesDBusConnector resources;
-    const TarnisIconProviderDBusConnector icons;
+    const Connectors connectors;
+    const TarnisDeviceUiResourcesDBusConnector& resources = connectors.resources;
+    const TarnisIconProviderDBusConnector& icons = connectors.icons;
     std::optional<QTemporaryDir> directory;
     std::optional<TestProcess> module;
 
 private Q_SLOTS:
     void cleanup() { module.reset(); }
 
-    void answerBecomesTheResultOrTheErrorOfEveryGetter_data()
-    {
-        QTest::addColumn<QString>("scenario");
-        for (const QString& scenario : scenarios.keys())
-            QTest::newRow(qPrintable(scenario)) << scenario;
-    }
-
-    void answerBecomesTheResultOrTheErrorOfEveryGetter()
-    {
-        QFETCH(QString, scenario);
-        const TestProcess service = serve(scenario);
-        compareGetters(scenarios[scenario]);
-    }
-
     void absentServiceFailsEveryCallUntilItReturns()
     {
-        compareGetters({{}, {}, {}, {}, "The name Module.Tarnis was not provided by any .service files"});
         for (int restart = 0; restart < 2; ++restart) {
-            const TestProcess service = serve("text");
-            QCOMPARE(resources.getFontIniFilePath(), "/x/y.ini");
+            LogRecorder log;
+            QStringList records;
+            for (const Getter& getter : getters)
+                records += getter.recordsOfFailure("The name Module.Tarnis was not provided by any .service files", {});
+            QCOMPARE(ask(), QStringList({{}, {}, {}, {}, ""}));
+            QCOMPARE(log.take(), records);
+            const TestProcess service = serve();
+            QCOMPARE(resources.getFontIniFilePath(), ":");
         }
     }
 
@@ -274,7 +150,7 @@ private Q_SLOTS:
 
     void tableNameGoesToTheServiceUnchanged()
     {
-        const TestProcess service = serve("echo");
+        const TestProcess service = serve();
         for (const QString& name : {QString(), QString("night"), QString::fromUtf8("../ü日")})
             QCOMPARE(icons.getIconResourcesMappingTable(name), "s:" + name);
         QCOMPARE(icons.getIconResourcesBasePath(), QString(":"));
@@ -333,7 +209,7 @@ private Q_SLOTS:
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    if (argc == 3 && qstrcmp(argv[1], "serve") == 0)
+    if (argc == 2 && qstrcmp(argv[1], "serve") == 0)
         return serve();
     ServiceTest test;
     return QTest::qExec(&test, argc, argv);

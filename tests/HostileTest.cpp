@@ -1,0 +1,320 @@
+// The connectors against a service that answers anything that the bus carries. The service is this program once more;
+// what it answers to call number N is made of the seed and N alone, so that the test knows what is right.
+
+#include "tests/support/DBusValue.h"
+#include "tests/support/Getters.h"
+#include "tests/support/LogRecorder.h"
+#include "tests/support/TestProcess.h"
+
+#include <QDBusConnectionInterface>
+#include <QtTest>
+
+#include <array>
+#include <optional>
+#include <random>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr int answers = 20000;                     // and a good one after each
+constexpr int hugeArray = 32 * 1024 * 1024 - 4096; // what the bus lets through in one message
+
+class Random
+{
+public:
+    Random(uint seed, int number)
+        : engine(seed * 1000003U + static_cast<uint>(number))
+    {
+    }
+    int below(int end) { return static_cast<int>(engine() % static_cast<uint>(end)); }
+    qint64 bits() { return static_cast<qint64>((quint64(engine()) << 32U) | engine()); }
+
+private:
+    std::mt19937 engine;
+};
+
+struct Plan {
+    enum Kind { Answer, Error, Twice, Late, Disconnect, Death, Successor };
+
+    Plan(uint seed, int number)
+        : random(seed, number)
+        , getter(random.below(5))
+    {
+        if (number % 20000 == 200)
+            makeRecord({"ay", QByteArray(hugeArray, 'x'), {}}, false);
+        else if (number % 2 == 1)
+            makeRecord(make.value(getter == 4 ? "a((ii)s)" : "s"), false);
+        else
+            makeBody();
+        if (number % 20000 == 100)
+            kind = Late;
+        else if (number % 4000 == 300)
+            kind = Death;
+        else if (number % 2 == 0 && make.isOneIn(100))
+            kind = make.oneOf(std::array{Error, Twice, Disconnect, Successor});
+    }
+
+    void makeBody()
+    {
+        // Near the right ones, and every type.
+        static const QByteArrayList values =
+            QByteArray("s h a((ii)s) a((ii)s) as ay v a((ii)i) a((ii)) a((ii)ss) a((xx)s) ((ii)s) aa((ii)s) a(iis) "
+                       "a{s(ii)}")
+                .split(' ');
+        static const QByteArrayList records =
+            QByteArray("(bis) (bisvv) (iisv) (bssv) (bisa{sv}) a(bisv) ((bisv)) (biv) (bisv(bisv)) s as ay v")
+                .split(' ');
+        const auto pick = [this](const QByteArrayList& list) {
+            return make.isOneIn(2) ? make.oneOf(list) : make.signature(3);
+        };
+        const int form = random.below(10);
+        if (form < 6)
+            makeRecord(make.value(pick(values)), make.isOneIn(10));
+        else if (form < 9)
+            body = {{"v", {}, {make.value(pick(records))}}};
+        for (int more = form < 9 && !make.isOneIn(10) ? 0 : random.below(3); more > 0; --more)
+            body.append(make.value(make.signature(2)));
+    }
+
+    void makeRecord(const DBusValue& value, bool isError)
+    {
+        body = {
+            {"v", {}, {{"(bisv)", {}, {{"b", isError, {}}, make.value("i"), make.value("s"), {"v", {}, {value}}}}}}};
+    }
+
+    Random random;
+    DBusValueMaker<Random> make{random};
+    int getter;
+    Kind kind = Answer;
+    QVector<DBusValue> body;
+};
+
+// The result of a getter, and the records that it leaves.
+struct Expectation {
+    QString result;
+    QStringList records;
+};
+
+// What Qt reads itself, and hands over as a value of its own, does not show its signature.
+bool isArgument(const QByteArray& signature)
+{
+    return (signature.startsWith('a') && signature != "as" && signature != "ay") || signature.startsWith('(');
+}
+
+// Null for what Qt converts to no string: a byte among the numbers, and all but text and byte arrays of the rest.
+QString textOf(const DBusValue& value)
+{
+    const bool isText =
+        (value.isNumber() && value.signature != "y") || value.signature == "s" || value.signature == "ay";
+    return isText ? value.basic.toString() + "" : QString(); // an empty text is not null
+}
+
+QString sizesOf(const DBusValue& value)
+{
+    QString text = "";
+    for (const DBusValue& entry : value.members) {
+        const DBusValue& size = entry.members.at(0);
+        text += size.members.at(0).basic.toString() + 'x' + size.members.at(1).basic.toString() + ' '
+            + entry.members.at(1).basic.toString() + ';';
+    }
+    return text;
+}
+
+Expectation expect(const Plan& plan)
+{
+    const Getter& getter = getters[plan.getter];
+    const auto fail = [&](const QString& callError, const QString& recordError) {
+        return Expectation{getter.givesSizes() ? "" : QString(), getter.recordsOfFailure(callError, recordError)};
+    };
+    if (plan.kind == Plan::Error)
+        return fail("out of order", {});
+    if (plan.kind == Plan::Disconnect || plan.kind == Plan::Death)
+        return fail("Message recipient disconnected from message bus without replying", {});
+    if (plan.kind == Plan::Late)
+        return fail("Did not receive a reply. Possible causes include: the remote application did not send a reply, "
+                    "the message bus security policy blocked the reply, the reply timeout expired, or the network "
+                    "connection was broken.",
+                    {});
+    if (plan.body.isEmpty() || plan.body.at(0).signature != "v")
+        return fail("Unexpected reply signature", {}); // and what was found
+    const DBusValue& record = plan.body.at(0).members.at(0);
+    if (record.signature != "(bisv)")
+        return fail({},
+                    "Unexpected D-Bus reply record: found signature \""
+                        + QString(isArgument(record.signature) ? record.signature : QByteArray())
+                        + "\", expected \"(bisv)\"");
+    if (record.members.at(0).basic.toBool())
+        return fail({}, record.members.at(2).basic.toString());
+    const DBusValue& value = record.members.at(3).members.at(0);
+    if (getter.givesSizes())
+        return value.signature == "a((ii)s)" ? Expectation{sizesOf(value), {}} : fail({}, {});
+    const QString text = textOf(value);
+    return text.isNull() ? fail({}, {}) : Expectation{text, {}};
+}
+
+// One connection to the bus at a time, which owns the module's name.
+class HostileService
+{
+public:
+    HostileService(uint seed, int number)
+        : seed(seed)
+        , number(number)
+    {
+        connect();
+    }
+
+    // Until the test ends it, or nothing has been asked for a while.
+    void run()
+    {
+        constexpr int idleMilliseconds = 30000;
+        while (dbus_connection_read_write(bus, idleMilliseconds) == TRUE) {
+            DBusMessage* call = dbus_connection_pop_message(bus);
+            if (call == nullptr && dbus_connection_get_dispatch_status(bus) == DBUS_DISPATCH_COMPLETE)
+                continue;
+            for (; call != nullptr; call = dbus_connection_pop_message(bus)) {
+                if (dbus_message_get_type(call) == DBUS_MESSAGE_TYPE_METHOD_CALL)
+                    answer(call, Plan(seed, number++));
+                dbus_message_unref(call);
+            }
+        }
+    }
+
+private:
+    void connect()
+    {
+        bus = dbus_connection_open_private(qgetenv("DBUS_SYSTEM_BUS_ADDRESS").constData(), nullptr);
+        if (bus == nullptr || dbus_bus_register(bus, nullptr) == FALSE)
+            qFatal("no bus");
+        dbus_connection_set_exit_on_disconnect(bus, FALSE);
+        dbus_bus_request_name(bus, "Module.Tarnis", DBUS_NAME_FLAG_ALLOW_REPLACEMENT | DBUS_NAME_FLAG_REPLACE_EXISTING,
+                              nullptr);
+    }
+
+    void answer(DBusMessage* call, const Plan& plan)
+    {
+        DBusConnection* const before = bus;
+        if (plan.kind == Plan::Successor)
+            connect(); // from now on calls come there
+        switch (plan.kind) {
+        case Plan::Death:
+            _exit(0);
+        case Plan::Disconnect:
+            break;
+        case Plan::Error:
+            send(before, dbus_message_new_error(call, "Test.Error", "out of order"));
+            break;
+        case Plan::Late:
+            QThread::msleep(5300);
+            [[fallthrough]];
+        default:
+            for (int time = plan.kind == Plan::Twice ? 2 : 1; time > 0; --time)
+                send(before, DBusValue::appendTo(dbus_message_new_method_return(call), plan.body));
+        }
+        if (plan.kind == Plan::Successor || plan.kind == Plan::Disconnect) {
+            dbus_connection_flush(before);
+            dbus_connection_close(before);
+            dbus_connection_unref(before);
+        }
+        if (plan.kind == Plan::Disconnect)
+            connect();
+    }
+
+    static void send(DBusConnection* bus, DBusMessage* reply)
+    {
+        dbus_connection_send(bus, reply, nullptr);
+        dbus_connection_flush(bus);
+        dbus_message_unref(reply);
+    }
+
+    DBusConnection* bus = nullptr;
+    uint seed;
+    int number;
+};
+
+} // namespace
+
+class HostileTest : public QObject
+{
+    Q_OBJECT
+
+    void startService(int number)
+    {
+        service.reset();
+        service.emplace(QCoreApplication::applicationFilePath(),
+                        QStringList{"serve", QString::number(seed), QString::number(number)});
+        QCOMPARE(service->firstLine(), QString("ready"));
+    }
+
+    void waitForService() const
+    {
+        QTRY_VERIFY(QDBusConnection::systemBus().interface()->isServiceRegistered("Module.Tarnis").value());
+    }
+
+    // What Qt found instead of a variant is Qt's to say.
+    static QStringList withoutFoundSignature(QStringList records)
+    {
+        static const QRegularExpression found(": got .*, expected \\\\\"v\\\\\" \\(QDBusVariant\\)",
+                                              QRegularExpression::DotMatchesEverythingOption);
+        return records.replaceInStrings(found, QString());
+    }
+
+    const uint seed;
+    PrivateBus bus;
+    const Connectors connectors;
+    std::optional<TestProcess> service;
+
+public:
+    explicit HostileTest(uint seed)
+        : seed(seed)
+    {
+    }
+
+private Q_SLOTS:
+    void everyAnswerGivesAnAllowedResultAndTheNextOneIsTaken()
+    {
+        startService(0);
+        LogRecorder log;
+        int signalCount = 0;
+        const auto count = [&signalCount] { ++signalCount; };
+        connect(&connectors.resources, &DBusConnectorBase::dBusConnectionError, this, count);
+        connect(&connectors.icons, &DBusConnectorBase::dBusConnectionError, this, count);
+        for (int number = 0; number < 2 * answers; ++number) {
+            const Plan plan(seed, number);
+            const Expectation expected = expect(plan);
+            const QString result = connectors.ask(plan.getter);
+            const QByteArray place = "seed " + QByteArray::number(seed) + ", answer " + QByteArray::number(number)
+                + " to " + getters[plan.getter].method.toUtf8();
+            QVERIFY2(result == expected.result && result.isNull() == expected.result.isNull(),
+                     place + " gives " + Getter::quoted(result.left(200)).toUtf8() + ", not "
+                         + Getter::quoted(expected.result.left(200)).toUtf8());
+            const QStringList records = withoutFoundSignature(log.take());
+            QVERIFY2(records == expected.records,
+                     place + " leaves " + records.join('\n').toUtf8() + ", not "
+                         + expected.records.join('\n').toUtf8());
+            QCOMPARE(std::exchange(signalCount, 0), records.filter("syncCallHelper").size() / 2);
+            if (plan.kind == Plan::Death)
+                startService(number + 1);
+            if (plan.kind == Plan::Disconnect)
+                waitForService();
+        }
+    }
+};
+
+// HostileTest [SEED]: tests with the seed (1). HostileTest serve SEED NUMBER: is the service, from call NUMBER on.
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) != "serve") {
+        HostileTest test(arguments.value(1, "1").toUInt());
+        return QTest::qExec(&test, {arguments.at(0)});
+    }
+    HostileService service(arguments.value(2).toUInt(), arguments.value(3).toInt());
+    puts("ready");
+    fflush(stdout);
+    service.run();
+    return 0;
+}
+
+#include "HostileTest.moc"
