@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Configures and builds one preset: build.sh dev|release|ci [TARGET...]
+# Configures and builds one preset: build.sh dev|release|ci|fuzz|valgrind [TARGET...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 preset=$1

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing: install-dependencies.sh [--lint] [--benchmark] [--valgrind]
-# --lint adds what CI needs besides: the second compiler, the formatter and the linter.
+# --lint adds what CI needs besides: the second compiler, its fuzzers, the formatter and the linter.
 # --valgrind adds valgrind; --benchmark adds the benchmarks' library, what they compare with, and what counts and draws.
 set -euo pipefail
 
@@ -13,7 +13,7 @@ packages=(
 )
 for option in "$@"; do
   case $option in
-    --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy) ;;
+    --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy qtbase5-private-dev) ;;
     --valgrind) packages+=(valgrind libc6-dbg) ;;
     --benchmark) packages+=(
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev

@@ -9,8 +9,8 @@
 /// error code, error message, value.
 ///
 /// A value of a D-Bus basic type, and a byte array, is held as the matching Qt type. Every other container, an array
-/// of strings included, is held as a QDBusArgument. Compare its currentSignature() before you read it: Qt's
-/// demarshalling does not survive a signature that it did not expect.
+/// of strings included, is held as a QDBusArgument; a variant within the variant as a QDBusVariant. Compare the
+/// argument's currentSignature() before you read it: Qt's demarshalling does not survive a signature that it did not expect.
 class Q_DECL_EXPORT DBusReply
 {
 public:

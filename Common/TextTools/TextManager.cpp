@@ -114,13 +114,13 @@ TextManager::Catalogue TextManager::readCatalogue(const QString& filename) const
     for (auto member = object.begin(); member != object.end(); ++member) {
         const QString url = member.key();
         const QJsonValue text = member.value();
-        if (text.isString()) {
-            result.urls.append(url);
+        if (text.isString())
             result.texts.insert(url, text.toString());
-        } else {
+        else
             qCWarning(platformText).noquote().nospace() << path << ": \"" << url << "\" is not a string";
-        }
     }
+    // Not from the object: it may hold a name twice, with and without a byte-order mark in front.
+    result.urls = result.texts.keys();
     result.urls.sort();
     return result;
 }

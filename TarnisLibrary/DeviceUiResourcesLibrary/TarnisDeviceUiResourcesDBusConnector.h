@@ -29,7 +29,7 @@ public:
     /// the service. On failure, or if the answer is no `a((ii)s)`, a warning and an empty list.
     QList<QPair<QSize, QString>> getSupportedDisplaySizes() const;
 
-    /// The text that the reply holds; numbers, booleans and byte arrays count as text. Otherwise a warning that names
-    /// `iniFile` ("fonts ini file"), and a null string.
+    /// The text that the reply holds; numbers (but single bytes), booleans and byte arrays count as text. Otherwise a
+    /// warning that names `iniFile` ("fonts ini file"), and a null string.
     QString convertDBusReplyToString(const DBusReply& reply, const char* iniFile) const;
 };

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Feeds the readers of what others write with made-up input, after all that failed before: fuzz.sh [SECONDS]
+# Each fuzzer runs for SECONDS (60), two at a time. An input that fails is saved under build/fuzz/failures/.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+export SECONDS_EACH=${1:-60} QT_HASH_SEED=0
+export ASAN_OPTIONS=quarantine_size_mb=16:malloc_context_size=8
+fuzzers=(IniFuzzer MappingTableFuzzer TextCatalogueFuzzer ReplyFuzzer)
+
+./scripts/install-dependencies.sh --lint
+./scripts/build.sh fuzz fuzzers
+python3 fuzz/seeds.py resources build/fuzz/corpus
+shared_memory=/dev/shm
+[ -w "$shared_memory" ] || shared_memory=/tmp
+TMPDIR=$(mktemp -d "$shared_memory/fuzz.XXXXXX")
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
+
+fuzz() {
+  local name=$1 log=build/fuzz/$1.log failures=build/fuzz/failures/$1 regressions=()
+  mkdir -p "$failures"
+  local options=(-artifact_prefix="$failures/" -timeout=10 -rss_limit_mb=2048)
+  # Qt loses memory on a JSON text that breaks off within an object; its readers can do nothing about it.
+  [[ $name = IniFuzzer || $name = ReplyFuzzer ]] || ASAN_OPTIONS+=:detect_leaks=0
+  [ ! -d "fuzz/regressions/$name" ] || regressions=("fuzz/regressions/$name"/*)
+  { [ ${#regressions[@]} -eq 0 ] || "build/fuzz/fuzz/$name" "${options[@]}" "${regressions[@]}"; } >"$log" 2>&1 &&
+    "build/fuzz/fuzz/$name" "${options[@]}" -max_total_time="$SECONDS_EACH" -max_len=512 -dict="fuzz/$name.dict" \
+      -print_final_stats=1 "build/fuzz/corpus/$name" >>"$log" 2>&1 || {
+    tail -n 60 "$log"
+    echo "$name failed. The input was saved: $(grep -o 'Test unit written to .*' "$log" | tail -n 1 | cut -d ' ' -f 5)"
+    echo "Keep it: copy it to fuzz/regressions/$name/ under a name that says what is wrong with it."
+    return 1
+  }
+  awk -v name="$name" '
+    /inline 8-bit counters\):/ { gsub(/[^0-9]/, "", $5); edges = $5 }
+    $2 == "DONE" { for (i = 1; i < NF; ++i) if ($i == "cov:") covered = $(i + 1) }
+    /number_of_executed_units/ { inputs = $2 }
+    /average_exec_per_sec/ { rate = $2 }
+    END { printf "%s: %d inputs, %d per second, %d of %d edges\n", name, inputs, rate, covered, edges }' "$log"
+}
+export -f fuzz
+printf '%s\n' "${fuzzers[@]}" | xargs -n 1 -P 2 bash -euo pipefail -c 'fuzz "$1"' fuzz
