@@ -261,7 +261,7 @@ class HostileTest : public QObject
 
     const uint seed;
     PrivateBus bus;
-    const Connectors connectors;
+    const Connectors connectors{};
     std::optional<TestProcess> service;
 
 public:

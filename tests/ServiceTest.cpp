@@ -104,7 +104,7 @@ class ServiceTest : public QObject
     }
 
     PrivateBus bus;
-    const Connectors connectors;
+    const Connectors connectors{};
     const TarnisDeviceUiResourcesDBusConnector& resources = connectors.resources;
     const TarnisIconProviderDBusConnector& icons = connectors.icons;
     std::optional<QTemporaryDir> directory;

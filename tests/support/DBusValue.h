@@ -151,7 +151,7 @@ private:
         DBusSignatureIter iterator;
         dbus_signature_iter_init(&iterator, signature.constData());
         char* const type = dbus_signature_iter_get_signature(&iterator);
-        const QByteArray copy = type;
+        QByteArray copy = type;
         dbus_free(type);
         return copy;
     }
