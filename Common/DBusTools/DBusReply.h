@@ -10,7 +10,8 @@
 ///
 /// A value of a D-Bus basic type, and a byte array, is held as the matching Qt type. Every other container, an array
 /// of strings included, is held as a QDBusArgument; a variant within the variant as a QDBusVariant. Compare the
-/// argument's currentSignature() before you read it: Qt's demarshalling does not survive a signature that it did not expect.
+/// argument's currentSignature() before you read it: Qt's demarshalling does not survive a signature that it did not
+/// expect.
 class Q_DECL_EXPORT DBusReply
 {
 public:
