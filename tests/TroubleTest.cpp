@@ -230,6 +230,7 @@ private Q_SLOTS:
     {
         const TarnisColorHandler colors("0");
         TextManager manager(".", "en");
+        const TarnisTextHandler texts(manager);
         static QStringList heard;
         static std::function<QString()> ask;
         ask = [&] { return colors.getColor("G", "n") + colors.getColor("", "") + manager.getText("k", "de"); };
@@ -240,10 +241,14 @@ private Q_SLOTS:
         const QtMessageHandler previous = qInstallMessageHandler(listen);
         colors.getColor("b", "a");
         manager.setLanguage("xx");
+        const QString other = manager.getText("k", "yy");
         qInstallMessageHandler(previous);
+        QCOMPARE(other, "en");
         QCOMPARE(heard.join('\n'),
                  "No color for key \"a\" in group \"b\" !\n0de\n"
-                 "Cannot read \"./xx.json\": No such file or directory\n0de");
+                 "Cannot read \"./xx.json\": No such file or directory\n0de\n"
+                 "Cannot read \"./yy.json\": No such file or directory\n0de");
+        QCOMPARE(texts.translatedTexts(), (QVariantMap{{"k", "en"}}));
     }
 };
 

@@ -64,6 +64,10 @@ QByteArray RegularFile::readAll(const QString& path, QString& reason)
         reason = QStringLiteral("No path");
         return QByteArray();
     }
+    if (path.contains(QChar::Null)) {
+        reason = QStringLiteral("No path: it holds a null character");
+        return QByteArray();
+    }
     const QByteArray encodedPath = QFile::encodeName(path);
     const auto fail = [&reason](int error) {
         reason = error == 0 ? QStringLiteral("Not a regular file") : QString::fromLocal8Bit(strerror(error));

@@ -79,9 +79,11 @@ void TextManager::load(const QString& name)
 const TextManager::FallbackChain& TextManager::fallbackChain(const QString& languageName) const
 {
     if (lastChain.catalogues.isEmpty() || lastChain.language != languageName) {
-        lastChain = {languageName, {}};
+        // Reading may log, and the message handler may ask for a text of another language.
+        FallbackChain chain{languageName, {}};
         for (const QString& filename : fallbackFilenames(languageName))
-            lastChain.catalogues.append(catalogue(filename));
+            chain.catalogues.append(catalogue(filename));
+        lastChain = chain;
     }
     return lastChain;
 }
