@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QDirIterator>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QString>
 #include <QVector>
 
 /// The toolbar icons of the Breeze theme: under their names in the theme, as aliases of the Breeze resource directory,
-/// and as paths.
+/// and as paths; sorted by name.
 struct Icon {
     QString name;
     QString alias;
@@ -19,11 +19,11 @@ inline const QString breezeIcons = QStringLiteral(BREEZE "/icons");
 inline QVector<Icon> readIcons()
 {
     QVector<Icon> icons;
-    QDirIterator files(breezeIcons + QStringLiteral("/breeze/actions/22"), {QStringLiteral("*.svg")});
-    while (files.hasNext() && icons.size() < 1000) {
-        const QString path = files.next();
-        const QString name = files.fileInfo().completeBaseName();
-        icons.append({name, QStringLiteral("actions/22/") + name, path});
+    const QDir directory(breezeIcons + QStringLiteral("/breeze/actions/22"), QStringLiteral("*.svg"));
+    const QFileInfoList files = directory.entryInfoList().mid(0, 1000);
+    for (const QFileInfo& file : files) {
+        const QString name = file.completeBaseName();
+        icons.append({name, QStringLiteral("actions/22/") + name, file.filePath()});
     }
     if (icons.isEmpty())
         qFatal("There is no Breeze resource directory: run scripts/breeze-resources.sh");

@@ -10,6 +10,7 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QTemporaryDir>
 
 #include <functional>
 #include <map>
@@ -40,7 +41,10 @@ std::map<std::string, std::function<void(int)>> makeSubjects()
 {
     static const TarnisColorHandler colors(RESOURCES "/colors.ini", nullptr);
     static const TarnisFontHandler fonts(RESOURCES "/fonts.ini", nullptr);
-    static const TarnisIconHandler icons(breezeIcons, readBreezeTable());
+    // A path costs by its length: the count must not depend on where the repository lies.
+    static const QTemporaryDir directory(QStringLiteral("/tmp/tarnis-XXXXXX"));
+    QFile::link(breezeIcons, directory.filePath(QStringLiteral("icons")));
+    static const TarnisIconHandler icons(directory.filePath(QStringLiteral("icons")), readBreezeTable());
     static TarnisElementDimensionHandler dimensions({{QSize(1280, 800), RESOURCES "/dimensions/1280x800.ini"},
                                                      {QSize(800, 480), RESOURCES "/dimensions/800x480.ini"}});
     static const Icon icon = readIcons().constFirst();

@@ -73,6 +73,8 @@ QString IniParser::decodeLines(const QByteArray& content, QTextCodec& codec)
         const int end = newline < 0 ? content.size() : newline + 1;
         const int invalidBefore = state.invalidChars;
         const QString line = codec.toUnicode(content.constData() + begin, end - begin, &state);
+        if (!line.isEmpty())
+            state.flags |= QTextCodec::IgnoreHeader; // a byte-order mark further down is text
         const bool isCutOff = end == content.size() && state.remainingChars > 0;
         if (state.invalidChars > invalidBefore || isCutOff)
             addFault(number, QStringLiteral("bytes that are no %1 text").arg(QString::fromLatin1(codec.name())));
