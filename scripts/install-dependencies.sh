@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
   g++ cmake ninja-build git ca-certificates
-  qtbase5-dev qtdeclarative5-dev
+  qtbase5-dev qtdeclarative5-dev qtdeclarative5-private-dev
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
   libqt5svg5 fonts-inter fonts-dejavu-core fonts-ipaexfont-gothic
   dbus-daemon libdbus-1-dev pkg-config systemd xvfb x11-xserver-utils python3

@@ -1,0 +1,48 @@
+#include "ResourceCheck/IniFile.h"
+
+#include "Common/FileTools/RegularFile.h"
+
+#include <QTextCodec>
+
+namespace
+{
+
+int firstTextIn(const QString& line, int from)
+{
+    int index = from;
+    while (index < line.size() && line.at(index).isSpace())
+        ++index;
+    return index;
+}
+
+} // namespace
+
+IniFile::IniFile(const QString& path)
+    : filePath(path)
+{
+    const QByteArray content = RegularFile::readAll(path, readProblem);
+    QTextCodec& codec = *QTextCodec::codecForName("UTF-8");
+    lines = codec.toUnicode(content).split(QLatin1Char('\n'));
+    parser = IniParser(content, codec);
+}
+
+Place IniFile::place(int line) const
+{
+    return {filePath, line, firstTextIn(lines.value(line - 1), 0) + 1};
+}
+
+Place IniFile::keyPlace(const IniEntry& entry) const
+{
+    return place(entry.line);
+}
+
+Place IniFile::valuePlace(const IniEntry& entry) const
+{
+    const QString line = lines.value(entry.line - 1);
+    return {filePath, entry.line, firstTextIn(line, line.indexOf(QLatin1Char('=')) + 1) + 1};
+}
+
+QString IniFile::writtenValue(const IniEntry& entry) const
+{
+    return lines.value(entry.line - 1).section(QLatin1Char('='), 1).trimmed();
+}

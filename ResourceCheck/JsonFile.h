@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ResourceCheck/Finding.h"
+
+#include <QVector>
+
+/// A value of a JSON text with its place, and with its name where it is a member of an object.
+struct JsonValue {
+    enum class Type { Object, String, Other };
+
+    Type type = Type::Other;
+    QString name;
+    Place namePlace;
+    Place place;
+    QString text;               // of a string
+    QVector<JsonValue> members; // of an object, all that are written, in the order of the file
+};
+
+/// The members of the object that count: of several under one name, the last.
+QVector<JsonValue> effectiveMembers(const JsonValue& object);
+
+/// A file that is to hold one JSON object, as Qt's reader takes it, with the places of what it holds.
+class JsonFile
+{
+public:
+    /// A file that cannot be read, or holds no JSON object, is like one with an empty object.
+    explicit JsonFile(const QString& path);
+
+    const QString& path() const { return filePath; }
+
+    /// Why the file cannot be read; null if it can.
+    const QString& problem() const { return readProblem; }
+
+    /// What is wrong with the text, and where; null if nothing is.
+    const QString& fault() const { return jsonFault; }
+    const Place& faultPlace() const { return placeOfFault; }
+
+    const JsonValue& root() const { return rootValue; }
+
+private:
+    QString filePath;
+    QString readProblem;
+    QString jsonFault;
+    Place placeOfFault;
+    JsonValue rootValue;
+};

@@ -1,0 +1,7 @@
+#include "ResourceCheck/Project.h"
+#include "ResourceCheck/Rule.h"
+
+QVector<Rule> colorRules()
+{
+    return {};
+}
