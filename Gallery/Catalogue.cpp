@@ -1,5 +1,6 @@
 #include "Gallery/Catalogue.h"
 
+#include "Common/ColorTools/Contrast.h"
 #include "Common/IniTools/IniFileManager.h"
 #include "Common/TextTools/LanguageDefinitions.h"
 #include "Gallery/UiResources.h"
@@ -10,8 +11,6 @@
 #include <QFontInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <cmath>
 
 namespace
 {
@@ -52,25 +51,6 @@ QVariantList matching(const QVariantList& entries, const QString& search)
             matches.append(entry);
     }
     return matches;
-}
-
-double linear(double channel)
-{
-    return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& color)
-{
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-QColor blended(const QColor& color, const QColor& background)
-{
-    const auto blend = [alpha = color.alphaF()](double front, double back) {
-        return alpha * front + (1 - alpha) * back;
-    };
-    return QColor::fromRgbF(blend(color.redF(), background.redF()), blend(color.greenF(), background.greenF()),
-                            blend(color.blueF(), background.blueF()));
 }
 
 } // namespace
@@ -131,10 +111,7 @@ double Catalogue::contrast(const QString& text, const QString& background) const
 {
     if (!isColor(text) || !isColor(background))
         return 0;
-    const QColor back = blended(QColor(background), Qt::white);
-    const double first = luminance(blended(QColor(text), back));
-    const double second = luminance(back);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+    return Contrast::ratio(QColor(text), QColor(background));
 }
 
 QString Catalogue::usedFamily(const QString& family) const

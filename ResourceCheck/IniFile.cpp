@@ -26,6 +26,16 @@ IniFile::IniFile(const QString& path)
     parser = IniParser(content, codec);
 }
 
+QVector<IniEntry> IniFile::effectiveEntries() const
+{
+    QVector<IniEntry> effective;
+    for (const IniEntry& entry : parser.entries()) {
+        if (parser.find(entry.group, entry.key) == &entry)
+            effective.append(entry);
+    }
+    return effective;
+}
+
 Place IniFile::place(int line) const
 {
     return {filePath, line, firstTextIn(lines.value(line - 1), 0) + 1};

@@ -19,6 +19,9 @@ public:
 
     const IniParser& content() const { return parser; }
 
+    /// The entries that count: of a key given again in its group, the last.
+    QVector<IniEntry> effectiveEntries() const;
+
     /// The first text of the line.
     Place place(int line) const;
     Place keyPlace(const IniEntry& entry) const;
