@@ -1,0 +1,61 @@
+#include "ResourceCheck/QmlScope.h"
+
+#include <QSet>
+
+namespace
+{
+
+QString lastName(const QString& path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('.')) + 1);
+}
+
+} // namespace
+
+QmlScope::QmlScope(const QHash<QString, QString>& handlers, const QHash<QString, QStringList>& bindings)
+    : handlers(handlers)
+    , bindings(bindings)
+{
+}
+
+QString QmlScope::meaning(const QString& path)
+{
+    const QString whole = meaningOfHandler(path);
+    const int dot = path.lastIndexOf(QLatin1Char('.'));
+    if (!whole.isEmpty() || dot < 0)
+        return whole;
+    const QString owner = meaningOfHandler(path.left(dot));
+    return owner.isEmpty() ? owner : owner + path.mid(dot);
+}
+
+QString QmlScope::meaningOfHandler(const QString& path)
+{
+    for (auto handler = handlers.constBegin(); handler != handlers.constEnd(); ++handler) {
+        const bool isEnd = path.endsWith(handler.key());
+        if (isEnd
+            && (path.size() == handler.key().size()
+                || path.at(path.size() - handler.key().size() - 1) == QLatin1Char('.')))
+            return handler.value();
+    }
+    return meaningOfBinding(lastName(path));
+}
+
+// Nothing when one name means different things in different places of the file.
+QString QmlScope::meaningOfBinding(const QString& name)
+{
+    const auto bound = bindings.constFind(name);
+    if (bound == bindings.constEnd())
+        return {};
+    const auto found = known.constFind(name);
+    if (found != known.constEnd())
+        return *found;
+    known.insert(name, QString()); // while it is asked for, should it be bound to itself
+    QSet<QString> meanings;
+    for (const QString& path : *bound) {
+        if (lastName(path) != name) // a name handed on as it is
+            meanings.insert(meaning(path));
+    }
+    const QString meaning = meanings.size() == 1 ? *meanings.constBegin() : QString();
+    known.insert(name, meaning);
+    return meaning;
+}

@@ -1,0 +1,133 @@
+#include "ResourceCheck/QmlUses.h"
+
+#include "Common/FileTools/RegularFile.h"
+#include "ResourceCheck/QmlCollector.h"
+#include "ResourceCheck/QmlExpression.h"
+#include "ResourceCheck/QmlScope.h"
+
+#include <QDirIterator>
+
+#include <private/qqmljsengine_p.h>
+#include <private/qqmljslexer_p.h>
+#include <private/qqmljsparser_p.h>
+
+namespace
+{
+
+const QHash<QString, ResourceKind>& kindsByMeaning()
+{
+    static const QHash<QString, ResourceKind> kinds{
+        {QStringLiteral("TarnisColorHandler.getColor"), ResourceKind::Color},
+        {QStringLiteral("TarnisFontHandler.getFontFamily"), ResourceKind::FontGroup},
+        {QStringLiteral("TarnisFontHandler.getFontPointSize"), ResourceKind::FontSize},
+        {QStringLiteral("TarnisElementDimensionHandler.uiElementDimensions"), ResourceKind::Dimension},
+        {QStringLiteral("TarnisIconHandler.getIconPath"), ResourceKind::Icon},
+        {QStringLiteral("TarnisIconHandler.getIconPathAsFileUrl"), ResourceKind::Icon},
+        {QStringLiteral("TarnisTextHandler.translatedTexts"), ResourceKind::Text},
+    };
+    return kinds;
+}
+
+bool hasGroup(ResourceKind kind)
+{
+    return kind == ResourceKind::Color || kind == ResourceKind::FontSize;
+}
+
+QStringList filesBelow(const QString& directory)
+{
+    QStringList files;
+    QDirIterator iterator(directory, {QStringLiteral("*.qml"), QStringLiteral("*.js"), QStringLiteral("*.mjs")},
+                          QDir::Files | QDir::System, QDirIterator::Subdirectories);
+    while (iterator.hasNext())
+        files.append(iterator.next());
+    files.sort();
+    return files;
+}
+
+bool parse(QQmlJS::Parser& parser, const QString& path)
+{
+    if (path.endsWith(QLatin1String(".mjs")))
+        return parser.parseModule();
+    return path.endsWith(QLatin1String(".js")) ? parser.parseScript() : parser.parse();
+}
+
+} // namespace
+
+QmlPattern QmlUse::name(const QmlPattern& group, const QmlPattern& key) const
+{
+    return hasGroup(kind) ? group + QmlPattern::literal(QStringLiteral("/")) + key : key;
+}
+
+QHash<QString, QString> QmlUses::galleryHandlers()
+{
+    return {
+        {QStringLiteral("Ui.colors"), QStringLiteral("TarnisColorHandler")},
+        {QStringLiteral("Ui.fonts"), QStringLiteral("TarnisFontHandler")},
+        {QStringLiteral("Ui.dimensions"), QStringLiteral("TarnisElementDimensionHandler")},
+        {QStringLiteral("Ui.texts"), QStringLiteral("TarnisTextHandler")},
+        {QStringLiteral("Ui.icons"), QStringLiteral("TarnisIconHandler")},
+    };
+}
+
+QmlUses::QmlUses(const QStringList& directories, const QHash<QString, QString>& handlers)
+{
+    for (const QString& directory : directories)
+        readDirectory(directory, handlers);
+}
+
+void QmlUses::readDirectory(const QString& directory, const QHash<QString, QString>& handlers)
+{
+    const QStringList files = filesBelow(directory);
+    if (files.isEmpty())
+        faultList.append({{directory}, QStringLiteral("holds no QML file")});
+    for (const QString& file : files)
+        readFile(file, handlers);
+}
+
+void QmlUses::readFile(const QString& path, const QHash<QString, QString>& handlers)
+{
+    QString problem;
+    const QString code = QString::fromUtf8(RegularFile::readAll(path, problem));
+    if (!problem.isNull()) {
+        faultList.append({{path}, QStringLiteral("cannot be read: %1").arg(problem)});
+        return;
+    }
+    QQmlJS::Engine engine;
+    QQmlJS::Lexer lexer(&engine);
+    lexer.setCode(code, 1, path.endsWith(QLatin1String(".qml")));
+    QQmlJS::Parser parser(&engine);
+    if (!parse(parser, path)) {
+        const Place place{path, parser.errorLineNumber(), parser.errorColumnNumber()};
+        faultList.append({place, parser.errorMessage()});
+        return;
+    }
+    QmlCollector collector;
+    QQmlJS::AST::Node::accept(parser.rootNode(), &collector);
+    if (collector.isTooDeep())
+        faultList.append({{path}, QStringLiteral("is nested too deeply")});
+    literalSet.unite(collector.literals());
+    QmlScope scope(handlers, collector.bindings());
+    for (const QmlCollector::Question& question : collector.questions()) {
+        const QString meaning = scope.meaning(question.path);
+        QVector<QVector<QmlPattern>> arguments;
+        for (QQmlJS::AST::ExpressionNode* argument : question.arguments)
+            arguments.append(QmlExpression::texts(argument, path));
+        addUse(meaning, arguments);
+    }
+}
+
+void QmlUses::addUse(const QString& meaning, const QVector<QVector<QmlPattern>>& arguments)
+{
+    const auto kind = kindsByMeaning().constFind(meaning);
+    if (kind == kindsByMeaning().constEnd() || arguments.isEmpty())
+        return;
+    const QVector<QmlPattern> first = arguments.first();
+    const QVector<QmlPattern> second = arguments.value(1, {QmlPattern::anything()});
+    const QVector<QmlPattern> noGroup{QmlPattern::anything()};
+    if (hasGroup(*kind))
+        useList.append({*kind, first, second});
+    else
+        useList.append({*kind, noGroup, first});
+    if (*kind == ResourceKind::Icon)
+        useList.append({ResourceKind::IconContext, noGroup, second});
+}
