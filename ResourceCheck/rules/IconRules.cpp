@@ -163,7 +163,7 @@ void checkImages(const Project& project, const Report& report)
         seen.insert(identity);
         const QString fault = ImageFile::fault(file.filePath());
         if (!fault.isNull())
-            report(path.place, QStringLiteral("\"%1\" cannot be shown: %2").arg(path.path, fault));
+            report(path.place, QStringLiteral("\"%1\" %2").arg(path.path, fault));
     });
 }
 

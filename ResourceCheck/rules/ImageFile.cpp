@@ -46,16 +46,16 @@ QString ImageFile::fault(const QString& path)
     const SilentLog silentLog;
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size(); // for which the whole of an SVG is read
     const QByteArray format = reader.format();
+    const QString shownFormat = QString::fromLatin1(format.toUpper());
     if (format.isEmpty())
-        return reader.errorString();
+        return QStringLiteral("is of no format that can be shown");
     if (isNamedAsOther(path, format))
-        return QStringLiteral("its content is %1").arg(QString::fromLatin1(format.toUpper()));
-    if (!size.isValid())
-        return QStringLiteral("not a whole %1").arg(QString::fromLatin1(format.toUpper()));
-    if (size.isEmpty())
-        return QStringLiteral("without a size");
-    const bool isDrawable = familyOf(format) == "svg" || !reader.read().isNull();
-    return isDrawable ? QString() : reader.errorString();
+        return QStringLiteral("holds a picture of the format %1, not what its name says").arg(shownFormat);
+    const QSize size = reader.size();
+    if (size.isValid() && size.isEmpty())
+        return QStringLiteral("is a picture without a size");
+    // The whole of an SVG has been read for its size; drawing it takes long and cannot fail.
+    const bool isReadable = size.isValid() && (familyOf(format) == "svg" || !reader.read().isNull());
+    return isReadable ? QString() : QStringLiteral("is no readable %1").arg(shownFormat);
 }

@@ -6,7 +6,7 @@
 class ImageFile
 {
 public:
-    /// Why a device cannot show the file as what its name says it is; null if it can. What Qt's readers have to log
-    /// meanwhile is dropped.
+    /// Why a device cannot show the file as what its name says it is, as in "is no readable PNG"; null if it can.
+    /// What Qt logs meanwhile is dropped.
     static QString fault(const QString& path);
 };

@@ -10,6 +10,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
 namespace
 {
@@ -81,11 +83,12 @@ void checkMissing(const Project& project, const Report& report)
 {
     const TextFile* english = reference(project);
     for (const TextFile& text : project.resources.texts) {
-        const std::optional<QSet<QString>> offered = offeredUrls(project, text.language);
+        std::optional<QSet<QString>> offered = offeredUrls(project, text.language);
         if (!english || !offered || !isLocale(text.language))
             continue;
         for (const JsonValue& member : english->texts) {
             if (!offered->contains(member.name)) {
+                offered->insert(member.name);
                 report(
                     {text.file.path(), 1, 1},
                     QStringLiteral("no text for \"%1\", in English \"%2\"").arg(member.name, member.text.simplified()));
@@ -150,8 +153,8 @@ void checkPlaceholders(const Project& project, const Report& report)
     if (!english)
         return;
     QHash<QString, QString> englishTexts;
-    for (const JsonValue& text : english->texts)
-        englishTexts.insert(text.name, text.text);
+    for (const JsonValue& text : english->texts) // which of two under one URL counts is open
+        englishTexts.insert(text.name, englishTexts.contains(text.name) ? QString() : text.text);
     for (const TextFile& text : project.resources.texts) {
         for (const JsonValue& member : text.texts) {
             const QString expected = englishTexts.value(member.name);
