@@ -2,7 +2,6 @@
 
 #include "Common/FileTools/RegularFile.h"
 
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -129,19 +128,6 @@ Place placeOf(const QString& path, const QByteArray& before)
 }
 
 } // namespace
-
-QVector<JsonValue> effectiveMembers(const JsonValue& object)
-{
-    QHash<QString, int> last;
-    for (int index = 0; index < object.members.size(); ++index)
-        last.insert(object.members.at(index).name, index);
-    QVector<JsonValue> effective;
-    for (int index = 0; index < object.members.size(); ++index) {
-        if (last.value(object.members.at(index).name) == index)
-            effective.append(object.members.at(index));
-    }
-    return effective;
-}
 
 JsonFile::JsonFile(const QString& path)
     : filePath(path)

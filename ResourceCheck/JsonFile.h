@@ -5,6 +5,7 @@
 #include <QVector>
 
 /// A value of a JSON text with its place, and with its name where it is a member of an object.
+/// Of several members under one name Qt keeps one, in a large object not always the last; all of them are here.
 struct JsonValue {
     enum class Type { Object, String, Other };
 
@@ -13,11 +14,8 @@ struct JsonValue {
     Place namePlace;
     Place place;
     QString text;               // of a string
-    QVector<JsonValue> members; // of an object, all that are written, in the order of the file
+    QVector<JsonValue> members; // of an object, in the order of the file
 };
-
-/// The members of the object that count: of several under one name, the last.
-QVector<JsonValue> effectiveMembers(const JsonValue& object);
 
 /// A file that is to hold one JSON object, as Qt's reader takes it, with the places of what it holds.
 class JsonFile

@@ -30,11 +30,11 @@ QVector<DimensionFile> readDimensions(const QString& directory)
 IconTable readIconTable(const QString& path)
 {
     IconTable table{JsonFile(path), {}};
-    for (const JsonValue& alias : effectiveMembers(table.file.root())) {
+    for (const JsonValue& alias : table.file.root().members) {
         if (alias.type != JsonValue::Type::Object)
             continue;
         QVector<IconPath> paths;
-        for (const JsonValue& context : effectiveMembers(alias)) {
+        for (const JsonValue& context : alias.members) {
             if (context.type == JsonValue::Type::String)
                 paths.append({context.name, context.text, context.place});
         }
@@ -56,7 +56,7 @@ QVector<TextFile> readTexts(const QString& directory)
     QVector<TextFile> texts;
     for (const QFileInfo& info : filesIn(directory, QStringLiteral("*.json"))) {
         TextFile text{info.completeBaseName(), JsonFile(info.filePath()), {}};
-        for (const JsonValue& member : effectiveMembers(text.file.root())) {
+        for (const JsonValue& member : text.file.root().members) {
             if (member.type == JsonValue::Type::String)
                 text.texts.append(member);
         }
