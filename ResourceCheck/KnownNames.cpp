@@ -44,10 +44,19 @@ int distance(const QString& left, const QString& right, int limit)
     return row.back();
 }
 
+// A third of the longest part: in `text://Room/Hall` most is the same as in any other text.
+int maximumDistance(const QString& name)
+{
+    int longest = 0;
+    for (const QString& part : name.split(separator))
+        longest = std::max(longest, part.size());
+    return longest / 3;
+}
+
 QString nearestOf(const QStringList& candidates, const QString& name)
 {
     QString nearest;
-    int limit = name.size() / 3;
+    int limit = maximumDistance(name);
     for (const QString& candidate : candidates) {
         const int difference = distance(name, candidate, limit);
         if (difference <= limit) {

@@ -14,8 +14,8 @@ public:
 
     bool contains(const QmlPattern& pattern) const;
 
-    /// The name that differs least from the pattern's text, `*` included, the first of several. Null if none differs
-    /// in at most a third of the characters.
+    /// The name that differs least from the pattern's text, `*` included, the first of several. Null if all differ
+    /// in more than a third of the characters of its longest part.
     QString nearest(const QmlPattern& pattern) const;
 
 private:

@@ -67,10 +67,12 @@ bool QmlCollector::visit(AST::StringLiteralPropertyName* name)
     return true;
 }
 
+// Called for every part of a template; Qt's walk passes over the expressions between them.
 bool QmlCollector::visit(AST::TemplateLiteral* literal)
 {
     if (literal->expression == nullptr)
         literalSet.insert(literal->value.toString());
+    AST::Node::accept(literal->expression, this);
     return true;
 }
 
