@@ -149,10 +149,12 @@ QString resolveUsage()
 
 QString questionProblem(const QStringList& question)
 {
+    QStringList known;
     for (const Kind& kind : kinds()) {
+        known.append(kind.name);
         if (kind.name != question.value(0))
             continue;
-        const int most = kind.names.split(QLatin1Char(' ')).size();
+        const int most = kind.names.count(QLatin1Char(' ')) + 1;
         const int least = most - kind.names.count(QLatin1Char('['));
         if (question.size() - 1 < least || question.size() - 1 > most)
             return QStringLiteral("write: resolve DIR %1 %2").arg(kind.name, kind.names);
@@ -160,12 +162,15 @@ QString questionProblem(const QStringList& question)
             return QStringLiteral("\"%1\" is no screen size; write WxH, as in 800x480").arg(question.at(1));
         return QString();
     }
-    return QStringLiteral("cannot resolve \"%1\"; there are:\n%2").arg(question.value(0), resolveUsage().chopped(1));
+    return QStringLiteral("cannot resolve \"%1\"; there are: %2")
+        .arg(question.value(0), known.join(QStringLiteral(", ")));
 }
 
 bool resolve(const QString& directory, const QStringList& question)
 {
-    const auto kind = std::find_if(kinds().begin(), kinds().end(),
-                                   [&question](const Kind& each) { return each.name == question.constFirst(); });
-    return kind->resolve(Resources(directory), question.mid(1));
+    for (const Kind& kind : kinds()) {
+        if (kind.name == question.constFirst())
+            return kind.resolve(Resources(directory), question.mid(1));
+    }
+    return false;
 }

@@ -22,8 +22,6 @@ QString Settings::setRule(const QString& name, const QString& severity)
 QString Settings::setOption(const QString& name, const QString& value)
 {
     static const QRegularExpression pair(QStringLiteral("\\A([^:]+/[^:]+):([^:]+/[^:]+)\\z"));
-    static const QString classes = QStringList(QmlUses::defaultHandlerNames().values()).join(QLatin1Char('|'));
-    static const QRegularExpression handler(QStringLiteral("\\A([^=]+)=(%1)\\z").arg(classes));
     if (name == QLatin1String("keep")) {
         kept.append(value);
     } else if (name == QLatin1String("contrast")) {
@@ -32,10 +30,14 @@ QString Settings::setOption(const QString& name, const QString& value)
             return QStringLiteral("\"%1\" is no pair of colours; write Group/Text:Group/Background").arg(value);
         contrastPairs.append({match.captured(1), match.captured(2)});
     } else if (name == QLatin1String("id")) {
-        const QRegularExpressionMatch match = handler.match(value);
-        if (!match.hasMatch())
-            return QStringLiteral("\"%1\" names no handler; write NAME=%2").arg(value, classes);
-        handlerNames.insert(match.captured(1), match.captured(2));
+        QStringList classes = QmlUses::defaultHandlerNames().values();
+        classes.sort();
+        const int equalsSign = value.indexOf(QLatin1Char('='));
+        if (equalsSign < 1 || !classes.contains(value.mid(equalsSign + 1))) {
+            return QStringLiteral("\"%1\" names no handler; write NAME=CLASS, with one of the classes %2")
+                .arg(value, classes.join(QStringLiteral(", ")));
+        }
+        handlerNames.insert(value.left(equalsSign), value.mid(equalsSign + 1));
     } else if (name == QLatin1String("werror")) {
         if (value != QLatin1String("yes") && value != QLatin1String("no"))
             return QStringLiteral("unknown value \"%1\" of werror; there are: yes, no").arg(value);
