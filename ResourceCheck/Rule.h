@@ -22,6 +22,9 @@ struct Rule {
 /// All rules, in the order of the documentation.
 const QVector<Rule>& allRules();
 
+/// Null if no rule has the name.
+const Rule* findRule(const QString& name);
+
 QVector<Rule> fileRules();
 QVector<Rule> iniRules();
 QVector<Rule> colorRules();

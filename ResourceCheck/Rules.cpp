@@ -1,8 +1,17 @@
 #include "ResourceCheck/Rule.h"
 
+#include <algorithm>
+
 const QVector<Rule>& allRules()
 {
     static const QVector<Rule> rules = fileRules() + iniRules() + colorRules() + fontRules() + dimensionRules()
         + iconRules() + textRules() + qmlRules() + unusedRules();
     return rules;
+}
+
+const Rule* findRule(const QString& name)
+{
+    const auto hasName = [&name](const Rule& rule) { return rule.name == name; };
+    const auto rule = std::find_if(allRules().begin(), allRules().end(), hasName);
+    return rule != allRules().end() ? &*rule : nullptr;
 }

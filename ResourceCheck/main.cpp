@@ -1,18 +1,87 @@
 #include "ResourceCheck/Check.h"
+#include "ResourceCheck/Options.h"
+#include "ResourceCheck/Output.h"
 #include "ResourceCheck/Project.h"
+#include "ResourceCheck/Resolve.h"
+#include "ResourceCheck/SarifOutput.h"
 
+#include <QElapsedTimer>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <unistd.h>
+
+namespace
+{
+
+enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2 };
+
+QVector<Finding> findFaults(const Options& options)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const Settings& settings = options.settings;
+    Project project{Resources(options.directory), {}, settings.contrastPairs, settings.kept};
+    if (!options.qmlDirectories.isEmpty()) {
+        project.qml.emplace(options.qmlDirectories,
+                            settings.handlerNames.isEmpty() ? QmlUses::defaultHandlerNames() : settings.handlerNames);
+    }
+    QVector<Finding> findings = check(project, settings.severities, [&timer](int done, int all) {
+        constexpr int patience = 1000; // milliseconds
+        if (isatty(STDERR_FILENO) != 0 && timer.hasExpired(patience))
+            std::fprintf(stderr, done < all ? "\rchecking: %d %%" : "\r\033[K", 100 * done / all);
+    });
+    for (Finding& finding : findings)
+        finding.severity = settings.warningsAreErrors ? Severity::Error : finding.severity;
+    return findings;
+}
+
+QByteArray output(const QVector<Finding>& findings, const QString& format)
+{
+    if (format == QLatin1String("summary"))
+        return summaryOutput(findings);
+    if (format == QLatin1String("json"))
+        return jsonOutput(findings);
+    if (format == QLatin1String("sarif"))
+        return sarifOutput(findings);
+    return textOutput(findings, isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR"));
+}
+
+int run(const Options& options)
+{
+    const QVector<Finding> findings = findFaults(options);
+    std::fputs(output(findings, options.format).constData(), stdout);
+    std::fflush(stdout);
+    if (options.format == QLatin1String("text") && !findings.isEmpty())
+        std::fputs(totals(findings).constData(), stderr);
+    const auto isError = [](const Finding& finding) { return finding.severity == Severity::Error; };
+    return std::any_of(findings.begin(), findings.end(), isError) ? Failure : Success;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
-    const QGuiApplication application(argc, argv);
-    const Project project{Resources(QGuiApplication::arguments().value(1)), {}, {}, {}};
-    const QVector<Finding> findings = check(project, {});
-    for (const Finding& finding : findings)
-        std::printf("%s:%d:%d: %s: %s [%s]\n", qUtf8Printable(finding.place.path), finding.place.line,
-                    finding.place.column, finding.severity == Severity::Error ? "error" : "warning",
-                    qUtf8Printable(finding.message), qUtf8Printable(finding.rule));
-    return findings.isEmpty() ? 0 : 1;
+    // No display is needed, but the machine's fonts are, and their sizes are told for one resolution.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
+    qputenv("QT_FONT_DPI", "96");
+    int nameOnly = 1; // no option is Qt's
+    const QGuiApplication application(nameOnly, argv);
+    QGuiApplication::setApplicationVersion(QStringLiteral(TARNIS_VERSION));
+    QStringList arguments;
+    std::transform(argv, argv + argc, std::back_inserter(arguments),
+                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+
+    Options options;
+    const QString problem = options.parse(arguments);
+    if (!problem.isNull()) {
+        std::fprintf(stderr, "tarnis-resource-check: %s\n", qUtf8Printable(problem));
+        return WrongUsage;
+    }
+    if (options.question.isEmpty())
+        return run(options);
+    return resolve(options.directory, options.question) ? Success : Failure;
 }

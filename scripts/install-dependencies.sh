@@ -9,7 +9,7 @@ packages=(
   qtbase5-dev qtdeclarative5-dev qtdeclarative5-private-dev
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
   libqt5svg5 fonts-inter fonts-dejavu-core fonts-ipaexfont-gothic
-  dbus-daemon libdbus-1-dev pkg-config systemd xvfb x11-xserver-utils python3
+  dbus-daemon libdbus-1-dev pkg-config systemd xvfb x11-xserver-utils python3 python3-jsonschema
 )
 for option in "$@"; do
   case $option in

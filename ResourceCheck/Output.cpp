@@ -1,0 +1,108 @@
+#include "ResourceCheck/Output.h"
+
+#include "ResourceCheck/Rule.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int nameWidth = 32;
+constexpr int numberWidth = 8;
+
+// Names in the resources may hold anything: one finding is one line, and none gives orders to a terminal.
+QString printable(const QString& text)
+{
+    QString result;
+    for (const QChar character : text) {
+        const bool isControl = character.category() == QChar::Other_Control;
+        result += isControl ? QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0')) : character;
+    }
+    return result;
+}
+
+QString counted(const QVector<Finding>& findings, Severity severity)
+{
+    const auto count = std::count_if(findings.begin(), findings.end(),
+                                     [severity](const Finding& finding) { return finding.severity == severity; });
+    const QLatin1String plural(count == 1 ? "" : "s");
+    return QStringLiteral("%1 %2%3").arg(QString::number(count), severityName(severity), plural);
+}
+
+} // namespace
+
+QByteArray textOutput(const QVector<Finding>& findings, bool isColored)
+{
+    const auto colored = [isColored](const QString& color, const QString& text) {
+        return isColored ? QStringLiteral("\033[%1m\033[K%2\033[m\033[K").arg(color, text) : text;
+    };
+    QStringList lines;
+    for (const Finding& finding : findings) {
+        QString place = printable(finding.place.path) + QLatin1Char(':');
+        for (const int number : {finding.place.line, finding.place.column})
+            place += number > 0 ? QString::number(number) + QLatin1Char(':') : QString();
+        const QString color = QLatin1String(finding.severity == Severity::Error ? "01;31" : "01;35");
+        const QString severity = colored(color, severityName(finding.severity) + QLatin1Char(':'));
+        lines.append(QStringLiteral("%1 %2 %3 [%4]\n")
+                         .arg(colored(QStringLiteral("01"), place), severity, printable(finding.message),
+                              colored(color, finding.rule)));
+    }
+    return lines.join(QString()).toUtf8();
+}
+
+QByteArray summaryOutput(const QVector<Finding>& findings)
+{
+    QMap<QString, int> counts;
+    for (const Finding& finding : findings)
+        ++counts[finding.rule];
+    QByteArray table;
+    for (auto count = counts.begin(); count != counts.end(); ++count)
+        table += QStringLiteral("%1%2\n").arg(count.key(), -nameWidth).arg(count.value(), numberWidth).toUtf8();
+    return table + totals(findings);
+}
+
+QByteArray jsonOutput(const QVector<Finding>& findings)
+{
+    QJsonArray array;
+    for (const Finding& finding : findings) {
+        array.append(QJsonObject{{QStringLiteral("rule"), finding.rule},
+                                 {QStringLiteral("severity"), severityName(finding.severity)},
+                                 {QStringLiteral("path"), finding.place.path},
+                                 {QStringLiteral("line"), finding.place.line},
+                                 {QStringLiteral("column"), finding.place.column},
+                                 {QStringLiteral("message"), finding.message}});
+    }
+    return QJsonDocument(array).toJson();
+}
+
+QByteArray totals(const QVector<Finding>& findings)
+{
+    QStringList parts{counted(findings, Severity::Error), counted(findings, Severity::Warning)};
+    return parts.join(QStringLiteral(", ")).toUtf8() + '\n';
+}
+
+QByteArray ruleList()
+{
+    QByteArray list;
+    for (const Rule& rule : allRules()) {
+        list += QStringLiteral("%1%2%3\n")
+                    .arg(rule.name, -nameWidth)
+                    .arg(severityName(rule.severity), -numberWidth)
+                    .arg(rule.reason)
+                    .toUtf8();
+    }
+    return list;
+}
+
+QByteArray explanation(const Rule& rule)
+{
+    return QStringLiteral("%1 (%2)\n\n%3\n\nTo silence it: --rule %1=off, or in DIR/.tarnis-check.ini:\n"
+                          "[Rules]\n%1=off\n")
+        .arg(rule.name, severityName(rule.severity), rule.reason)
+        .toUtf8();
+}

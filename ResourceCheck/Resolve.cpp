@@ -1,0 +1,176 @@
+#include "ResourceCheck/Resolve.h"
+
+#include "Common/FileTools/RegularFile.h"
+#include "Common/TextTools/LanguageDefinitions.h"
+#include "ResourceCheck/Resources.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisTextHandler.h"
+#include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace
+{
+
+// Returns whether there is a value.
+bool print(const char* name, const QString& value)
+{
+    std::printf("%-18s %s\n", name, value.isEmpty() ? "(nothing)" : qUtf8Printable(value));
+    return !value.isEmpty();
+}
+
+void printPlace(const IniFile& file, const QString& group, const QString& key)
+{
+    if (const IniEntry* entry = file.content().find(group, key))
+        print("listed at:", QStringLiteral("%1:%2").arg(file.path(), QString::number(entry->line)));
+}
+
+bool resolveColor(const Resources& resources, const QStringList& names)
+{
+    const TarnisColorHandler handler(resources.colors.path());
+    printPlace(resources.colors, names.at(0), names.at(1));
+    return print("color:", handler.getColor(names.at(0), names.at(1)));
+}
+
+bool resolveFont(const Resources& resources, const QStringList& names)
+{
+    const TarnisFontHandler handler(resources.fonts.path());
+    const bool hasFamily = print("family:", handler.getFontFamily(names.at(0)));
+    if (names.size() == 1)
+        return hasFamily;
+    const IniEntry* entry = resources.fonts.content().find(names.at(0), names.at(1));
+    printPlace(resources.fonts, names.at(0), names.at(1));
+    print("pixels:", entry != nullptr ? entry->value : QString());
+    const double points = handler.getFontPointSize(names.at(0), names.at(1));
+    return print("points at 96 dpi:", points != 0.0 ? QString::number(points) : QString()) && hasFamily;
+}
+
+QSize sizeOf(const QString& name)
+{
+    return {name.section(QLatin1Char('x'), 0, 0).toInt(), name.section(QLatin1Char('x'), 1).toInt()};
+}
+
+bool resolveDimension(const Resources& resources, const QStringList& names)
+{
+    QList<QPair<QSize, QString>> sizes;
+    for (const DimensionFile& dimension : resources.dimensions) {
+        if (dimension.size.isValid())
+            sizes.append({dimension.size, dimension.file.path()});
+    }
+    // As the service sends them: of two that are equally near, the first is taken.
+    std::sort(sizes.begin(), sizes.end(), [](const auto& left, const auto& right) {
+        return std::pair(left.first.width(), left.first.height())
+            < std::pair(right.first.width(), right.first.height());
+    });
+    TarnisElementDimensionHandler handler(sizes);
+    const QPair<QSize, QString> nearest = handler.nearestNeighbourScreenSize(sizeOf(names.at(0)));
+    print("screen:", names.at(0));
+    if (!print("nearest display:", nearest.second))
+        return false;
+    handler.loadUiElementDimensions(nearest);
+    return print("pixels:", handler.uiElementDimensions().value(names.at(1)).toString());
+}
+
+bool resolveIcon(const Resources& resources, const QStringList& names)
+{
+    QString problem;
+    const QString table =
+        QString::fromUtf8(RegularFile::readAll(resources.iconTables.constFirst().file.path(), problem));
+    const TarnisIconHandler handler(resources.iconDirectory, table);
+    const TarnisIconHandler::ContextMap contexts = handler.parseMappingTable(table).value(names.at(0));
+    const QString requested = names.value(1, TarnisIconHandler::defaultContextPathKey);
+    const QString effective = contexts.contains(requested) ? requested : TarnisIconHandler::defaultContextPathKey;
+    print("alias:", names.at(0));
+    print("requested context:", requested);
+    if (contexts.contains(effective)) {
+        const QString path =
+            QDir(resources.iconDirectory).absolutePath() + QLatin1Char('/') + contexts.value(effective);
+        print("effective context:", effective);
+        print("relative path:", contexts.value(effective));
+        print("absolute path:", path);
+        print("exists:", QFile::exists(path) ? QStringLiteral("yes") : QStringLiteral("no"));
+    }
+    return print("URL:", handler.getIconPathAsFileUrl(names.at(0), requested));
+}
+
+bool resolveText(const Resources& resources, const QStringList& names)
+{
+    const QString& language = names.at(1);
+    const TextManager manager(resources.directory + QStringLiteral("/texts"), language);
+    const TarnisTextHandler handler(manager);
+    const QString& last = LanguageDefinitions::getSecondFallbackLanguageFilename();
+    QStringList files{language + QStringLiteral(".json"),
+                      language.section(QLatin1Char('_'), 0, 0) + QStringLiteral(".json"), last};
+    files.removeDuplicates();
+    for (const QString& file : qAsConst(files)) {
+        const bool isFound = manager.getAvailableUrls(file).contains(names.at(0));
+        print(isFound ? "found in:" : "not in:", file);
+        if (isFound)
+            break;
+    }
+    // Only what the last of them offers is published.
+    print("offered by:", manager.getAvailableUrls(last).contains(names.at(0)) ? last : QString());
+    return print("text:", handler.translatedTexts().value(names.at(0)).toString());
+}
+
+struct Kind {
+    QString name;
+    QString names; // those that may be left out in brackets
+    bool (*resolve)(const Resources& resources, const QStringList& names);
+};
+
+const QVector<Kind>& kinds()
+{
+    static const QVector<Kind> list{
+        {QStringLiteral("color"), QStringLiteral("GROUP KEY"), resolveColor},
+        {QStringLiteral("font"), QStringLiteral("GROUP [KEY]"), resolveFont},
+        {QStringLiteral("dimension"), QStringLiteral("WxH GROUP/KEY"), resolveDimension},
+        {QStringLiteral("icon"), QStringLiteral("ALIAS [CONTEXT]"), resolveIcon},
+        {QStringLiteral("text"), QStringLiteral("URL LANGUAGE"), resolveText},
+    };
+    return list;
+}
+
+} // namespace
+
+QString resolveUsage()
+{
+    QString usage;
+    for (const Kind& kind : kinds())
+        usage += QStringLiteral("  resolve DIR %1 %2\n").arg(kind.name, kind.names);
+    return usage;
+}
+
+QString questionProblem(const QStringList& question)
+{
+    QStringList known;
+    for (const Kind& kind : kinds()) {
+        known.append(kind.name);
+        if (kind.name != question.value(0))
+            continue;
+        const int most = kind.names.count(QLatin1Char(' ')) + 1;
+        const int least = most - kind.names.count(QLatin1Char('['));
+        if (question.size() - 1 < least || question.size() - 1 > most)
+            return QStringLiteral("write: resolve DIR %1 %2").arg(kind.name, kind.names);
+        if (kind.resolve == resolveDimension && sizeOf(question.at(1)).isEmpty())
+            return QStringLiteral("\"%1\" is no screen size; write WxH, as in 800x480").arg(question.at(1));
+        return QString();
+    }
+    return QStringLiteral("cannot resolve \"%1\"; there are: %2")
+        .arg(question.value(0), known.join(QStringLiteral(", ")));
+}
+
+bool resolve(const QString& directory, const QStringList& question)
+{
+    for (const Kind& kind : kinds()) {
+        if (kind.name == question.constFirst())
+            return kind.resolve(Resources(directory), question.mid(1));
+    }
+    return false;
+}

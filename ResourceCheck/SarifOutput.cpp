@@ -1,0 +1,79 @@
+#include "ResourceCheck/SarifOutput.h"
+
+#include "ResourceCheck/Rule.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrl>
+
+namespace
+{
+
+QJsonObject object(const char* name, const QJsonValue& value)
+{
+    return {{QLatin1String(name), value}};
+}
+
+// Its levels have the names of the severities, but for this one.
+QString level(Severity severity)
+{
+    return severity == Severity::Off ? QStringLiteral("none") : severityName(severity);
+}
+
+QJsonObject descriptor(const Rule& rule)
+{
+    return {{QStringLiteral("id"), rule.name},
+            {QStringLiteral("shortDescription"), object("text", rule.reason)},
+            {QStringLiteral("defaultConfiguration"), object("level", level(rule.severity))}};
+}
+
+QJsonObject location(const Place& place)
+{
+    const QLatin1String scheme(place.path.startsWith(QLatin1Char('/')) ? "file://" : "");
+    const QString uri = scheme + QString::fromLatin1(QUrl::toPercentEncoding(place.path, "/"));
+    QJsonObject physical{{QStringLiteral("artifactLocation"), object("uri", uri)}};
+    QJsonObject region;
+    if (place.line > 0)
+        region.insert(QStringLiteral("startLine"), place.line);
+    if (place.column > 0)
+        region.insert(QStringLiteral("startColumn"), place.column);
+    if (!region.isEmpty())
+        physical.insert(QStringLiteral("region"), region);
+    return object("physicalLocation", physical);
+}
+
+QJsonObject result(const Finding& finding, const QStringList& ruleNames)
+{
+    return {{QStringLiteral("ruleId"), finding.rule},
+            {QStringLiteral("ruleIndex"), ruleNames.indexOf(finding.rule)},
+            {QStringLiteral("level"), level(finding.severity)},
+            {QStringLiteral("message"), object("text", finding.message)},
+            {QStringLiteral("locations"), QJsonArray{location(finding.place)}}};
+}
+
+} // namespace
+
+QByteArray sarifOutput(const QVector<Finding>& findings)
+{
+    QStringList names;
+    QJsonArray rules;
+    for (const Rule& rule : allRules()) {
+        names.append(rule.name);
+        rules.append(descriptor(rule));
+    }
+    QJsonArray results;
+    for (const Finding& finding : findings)
+        results.append(result(finding, names));
+    const QJsonObject driver{{QStringLiteral("name"), QStringLiteral("tarnis-resource-check")},
+                             {QStringLiteral("version"), QCoreApplication::applicationVersion()},
+                             {QStringLiteral("rules"), rules}};
+    const QJsonObject run{{QStringLiteral("tool"), object("driver", driver)},
+                          {QStringLiteral("columnKind"), QStringLiteral("utf16CodeUnits")},
+                          {QStringLiteral("results"), results}};
+    const QJsonObject log{{QStringLiteral("$schema"), QStringLiteral("https://json.schemastore.org/sarif-2.1.0.json")},
+                          {QStringLiteral("version"), QStringLiteral("2.1.0")},
+                          {QStringLiteral("runs"), QJsonArray{run}}};
+    return QJsonDocument(log).toJson();
+}

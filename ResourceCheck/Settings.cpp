@@ -1,0 +1,83 @@
+#include "ResourceCheck/Settings.h"
+
+#include "ResourceCheck/IniFile.h"
+#include "ResourceCheck/QmlUses.h"
+#include "ResourceCheck/Rule.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+QString Settings::setRule(const QString& name, const QString& severity)
+{
+    if (findRule(name) == nullptr)
+        return QStringLiteral("unknown rule \"%1\"; --list-rules names those there are").arg(name);
+    if (!severityNames.contains(severity)) {
+        return QStringLiteral("unknown severity \"%1\" of the rule %2; there are: %3")
+            .arg(severity, name, severityNames.join(QStringLiteral(", ")));
+    }
+    severities.insert(name, static_cast<Severity>(severityNames.indexOf(severity)));
+    return QString();
+}
+
+QString Settings::setOption(const QString& name, const QString& value)
+{
+    static const QRegularExpression pair(QStringLiteral("\\A([^:]+/[^:]+):([^:]+/[^:]+)\\z"));
+    if (name == QLatin1String("keep")) {
+        kept.append(value);
+    } else if (name == QLatin1String("contrast")) {
+        const QRegularExpressionMatch match = pair.match(value);
+        if (!match.hasMatch())
+            return QStringLiteral("\"%1\" is no pair of colours; write Group/Text:Group/Background").arg(value);
+        contrastPairs.append({match.captured(1), match.captured(2)});
+    } else if (name == QLatin1String("id")) {
+        QStringList classes = QmlUses::defaultHandlerNames().values();
+        classes.sort();
+        const int equalsSign = value.indexOf(QLatin1Char('='));
+        if (equalsSign < 1 || !classes.contains(value.mid(equalsSign + 1))) {
+            return QStringLiteral("\"%1\" names no handler; write NAME=CLASS, with one of the classes %2")
+                .arg(value, classes.join(QStringLiteral(", ")));
+        }
+        handlerNames.insert(value.left(equalsSign), value.mid(equalsSign + 1));
+    } else if (name == QLatin1String("werror")) {
+        if (value != QLatin1String("yes") && value != QLatin1String("no"))
+            return QStringLiteral("unknown value \"%1\" of werror; there are: yes, no").arg(value);
+        warningsAreErrors = value == QLatin1String("yes");
+    } else {
+        return QStringLiteral("unknown key \"%1\"; there are: werror, keep, contrast, id").arg(name);
+    }
+    return QString();
+}
+
+QString Settings::setEntry(const IniEntry& entry)
+{
+    if (entry.group == QLatin1String("Rules"))
+        return setRule(entry.key, entry.value);
+    if (entry.group != QLatin1String("Options"))
+        return QStringLiteral("unknown group \"%1\"; there are: Rules, Options").arg(entry.group);
+    QString problem;
+    const QStringList values = entry.value.simplified().split(QLatin1Char(' '));
+    for (auto value = values.begin(); value != values.end() && problem.isNull(); ++value)
+        problem = setOption(entry.key, *value);
+    return problem;
+}
+
+QString Settings::readFileOf(const QString& directory)
+{
+    const QFileInfo info(directory + QStringLiteral("/.tarnis-check.ini"));
+    if (!info.exists() && !info.isSymLink())
+        return QString();
+    const IniFile file(info.filePath());
+    if (!file.problem().isNull())
+        return QStringLiteral("%1: cannot be read: %2").arg(file.path(), file.problem());
+    const auto located = [&file](int line, const QString& problem) {
+        return QStringLiteral("%1:%2: %3").arg(file.path(), QString::number(line), problem);
+    };
+    for (const IniParser::Fault& fault : file.content().faults())
+        return located(fault.line, fault.reason);
+    for (const IniEntry& entry : file.content().entries()) {
+        const QString problem = setEntry(entry);
+        if (!problem.isNull())
+            return located(entry.line, problem);
+    }
+    return QString();
+}
