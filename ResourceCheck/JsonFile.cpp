@@ -135,6 +135,12 @@ JsonFile::JsonFile(const QString& path)
     const QByteArray content = RegularFile::readAll(path, readProblem);
     if (!readProblem.isNull())
         return;
+    const int nullCharacter = content.indexOf('\0');
+    if (nullCharacter >= 0) { // Qt reads on, but no text with one gets over the bus
+        jsonFault = QStringLiteral("null character");
+        placeOfFault = placeOf(path, content.left(nullCharacter));
+        return;
+    }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(content, &error);
     if (document.isObject()) {

@@ -53,8 +53,12 @@ Names dimensionsOf(const QVector<DimensionFile>& files)
 Names membersOf(const JsonFile& file)
 {
     Names names;
-    for (const JsonValue& member : effectiveMembers(file.root()))
-        names.append({member.name, member.name, member.namePlace});
+    QSet<QString> seen;
+    for (const JsonValue& member : file.root().members) {
+        if (!seen.contains(member.name))
+            names.append({member.name, member.name, member.namePlace});
+        seen.insert(member.name);
+    }
     return names;
 }
 

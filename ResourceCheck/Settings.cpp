@@ -30,7 +30,7 @@ QString Settings::setOption(const QString& name, const QString& value)
             return QStringLiteral("\"%1\" is no pair of colours; write Group/Text:Group/Background").arg(value);
         contrastPairs.append({match.captured(1), match.captured(2)});
     } else if (name == QLatin1String("id")) {
-        QStringList classes = QmlUses::defaultHandlerNames().values();
+        QStringList classes = QmlUses::galleryHandlers().values();
         classes.sort();
         const int equalsSign = value.indexOf(QLatin1Char('='));
         if (equalsSign < 1 || !classes.contains(value.mid(equalsSign + 1))) {

@@ -33,6 +33,8 @@ QDBusVariant IconProvider::getIconResourcesMappingTable(const QString& name) con
     if (!file.open(QIODevice::ReadOnly))
         return Answer::error(QStringLiteral("%1: %2").arg(path, file.errorString()));
     const QByteArray table = file.readAll();
+    if (table.contains('\0'))
+        return Answer::error(QStringLiteral("%1: a null character, which the bus does not carry").arg(path));
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(table, &error);
     if (error.error != QJsonParseError::NoError)

@@ -101,7 +101,7 @@ void checkSyntax(const Project& project, const Report& report)
 
 void checkColors(const Project& project, const Report& report)
 {
-    checkUses(project, report, ResourceKind::Color, QStringLiteral("color"));
+    checkUses(project, report, ResourceKind::Color, QStringLiteral("colour"));
 }
 
 void checkFonts(const Project& project, const Report& report)
@@ -135,7 +135,7 @@ QVector<Rule> qmlRules()
          QStringLiteral("A file that the QML engine cannot read shows nothing, and here its uses are not seen."),
          checkSyntax},
         {QStringLiteral("qml-unknown-color"), Severity::Error,
-         QStringLiteral("A color that does not exist is an empty text, which QML draws as black or not at all."),
+         QStringLiteral("A colour that does not exist is an empty text, which QML draws as black or not at all."),
          checkColors},
         {QStringLiteral("qml-unknown-font"), Severity::Error,
          QStringLiteral("A font that does not exist has no family and the size 0, so Qt takes its own font."),

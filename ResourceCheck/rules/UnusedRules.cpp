@@ -79,7 +79,7 @@ void checkUnused(const Project& project, const Report& report, ResourceKind kind
 
 void checkColors(const Project& project, const Report& report)
 {
-    checkUnused(project, report, ResourceKind::Color, QStringLiteral("color"));
+    checkUnused(project, report, ResourceKind::Color, QStringLiteral("colour"));
 }
 
 void checkFonts(const Project& project, const Report& report)
@@ -108,7 +108,7 @@ QVector<Rule> unusedRules()
 {
     return {
         {QStringLiteral("unused-color"), Severity::Warning,
-         QStringLiteral("A color that nothing shows is read at every start and changed with every design."),
+         QStringLiteral("A colour that nothing shows is read at every start and changed with every design."),
          checkColors},
         {QStringLiteral("unused-font"), Severity::Warning,
          QStringLiteral("A font size that nothing shows is read at every start and changed with every design."),
