@@ -87,14 +87,14 @@ QString Options::parse(const QStringList& arguments)
     return QString();
 }
 
-QString Options::readPositional(QStringList arguments)
+QString Options::readPositional(const QStringList& arguments)
 {
     const bool resolves = !arguments.isEmpty() && arguments.constFirst() == QLatin1String("resolve");
     question = arguments.mid(resolves ? 2 : 1);
     directory = QDir::cleanPath(arguments.value(resolves ? 1 : 0));
     if (directory.isEmpty())
         return QStringLiteral("the resource directory DIR is missing");
-    const QString problem = directoryProblem(directory);
+    QString problem = directoryProblem(directory);
     if (!problem.isNull() || (question.isEmpty() && !resolves))
         return problem;
     return resolves ? questionProblem(question) : QStringLiteral("unexpected argument \"%1\"").arg(question.first());

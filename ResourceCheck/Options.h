@@ -17,7 +17,7 @@ struct Options {
     Settings settings;
 
 private:
-    QString readPositional(QStringList arguments);
+    QString readPositional(const QStringList& arguments);
     QString readFormat(const QCommandLineParser& parser);
     QString readSettings(const QCommandLineParser& parser);
 };

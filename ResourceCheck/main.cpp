@@ -31,7 +31,7 @@ QVector<Finding> findFaults(const Options& options)
     QVector<Finding> findings = check(project, settings.severities, [&timer](int done, int all) {
         constexpr int patience = 1000; // milliseconds
         if (isatty(STDERR_FILENO) != 0 && timer.hasExpired(patience))
-            std::fprintf(stderr, done < all ? "\rchecking: %d %%" : "\r\033[K", 100 * done / all);
+            std::fprintf(stderr, "\rchecking: %d %%%s", 100 * done / all, done < all ? "" : "\r\033[K");
     });
     for (Finding& finding : findings)
         finding.severity = settings.warningsAreErrors ? Severity::Error : finding.severity;
