@@ -1,14 +1,13 @@
 #include "Common/FileTools/RegularFile.h"
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/Rule.h"
-#include "ResourceCheck/rules/IconFiles.h"
-#include "ResourceCheck/rules/ImageFile.h"
 #include "ResourceCheck/rules/JsonFaults.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QHash>
+#include <QDirIterator>
+#include <QImage>
+#include <QImageReader>
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -16,15 +15,21 @@
 namespace
 {
 
-template <typename Function>
-void forEachPath(const Project& project, const Function& function)
+template <void (*check)(const IconTable& table, const Report& report)>
+void forEachTable(const Project& project, const Report& report)
 {
+    for (const IconTable& table : project.resources.iconTables)
+        check(table, report);
+}
+
+QVector<IconPath> pathsOf(const Project& project)
+{
+    QVector<IconPath> paths;
     for (const IconTable& table : project.resources.iconTables) {
-        for (const IconAlias& alias : table.aliases) {
-            for (const IconPath& path : alias.paths)
-                function(path);
-        }
+        for (const IconAlias& alias : table.aliases)
+            paths += alias.paths;
     }
+    return paths;
 }
 
 // With all their contexts, whatever the type of the path.
@@ -46,129 +51,43 @@ QSet<QString> contextsOf(const JsonValue& alias)
     return contexts;
 }
 
-// Why the path does not stay in the icon directory; null if it does.
-QString wayOut(const QString& path)
+void checkJson(const IconTable& table, const Report& report)
 {
-    if (path.startsWith(QLatin1Char('/')))
-        return QStringLiteral("is absolute");
-    const QString cleaned = QDir::cleanPath(path);
-    const bool leaves = cleaned == QLatin1String("..") || cleaned.startsWith(QLatin1String("../"));
-    return leaves ? QStringLiteral("leaves the icon directory") : QString();
-}
-
-QString absolute(const Project& project, const QString& path)
-{
-    return project.resources.iconDirectory + QLatin1Char('/') + path;
-}
-
-bool isFileInside(const Project& project, const QString& path)
-{
-    return wayOut(path).isNull() && QFileInfo(absolute(project, path)).isFile();
-}
-
-void checkJson(const Project& project, const Report& report)
-{
-    for (const IconTable& table : project.resources.iconTables) {
-        reportFault(table.file, report);
-        for (const JsonValue& alias : table.file.root().members) {
-            if (alias.type != JsonValue::Type::Object)
-                report(alias.place, QStringLiteral("the alias \"%1\" is no object of contexts").arg(alias.name));
-            for (const JsonValue& context : alias.members) {
-                if (context.type != JsonValue::Type::String) {
-                    report(context.place,
-                           QStringLiteral("the context \"%1\" of the alias \"%2\" is no string")
-                               .arg(context.name, alias.name));
-                }
-            }
-        }
+    reportFault(table.file, report);
+    reportOtherTypes(table.file.root(), JsonValue::Type::Object, QStringLiteral("alias"), report);
+    for (const JsonValue& alias : aliasesOf(table)) {
+        const QString kind = QStringLiteral("path of the alias \"%1\" for").arg(alias.name);
+        reportOtherTypes(alias, JsonValue::Type::String, kind, report);
     }
 }
 
-void checkDuplicateAliases(const Project& project, const Report& report)
+void checkDuplicateAliases(const IconTable& table, const Report& report)
 {
-    for (const IconTable& table : project.resources.iconTables)
-        reportDuplicates(table.file.root(), QStringLiteral("alias"), report);
+    reportDuplicates(table.file.root(), QStringLiteral("alias"), report);
 }
 
-void checkDuplicateContexts(const Project& project, const Report& report)
+void checkDuplicateContexts(const IconTable& table, const Report& report)
 {
-    for (const IconTable& table : project.resources.iconTables) {
-        for (const JsonValue& alias : aliasesOf(table))
-            reportDuplicates(alias, QStringLiteral("context"), report);
+    for (const JsonValue& alias : aliasesOf(table))
+        reportDuplicates(alias, QStringLiteral("context"), report);
+}
+
+void reportLacking(const IconTable& table, const QString& context, const QString& addition, const Report& report)
+{
+    for (const JsonValue& alias : aliasesOf(table)) {
+        if (!contextsOf(alias).contains(context))
+            report(alias.namePlace, QStringLiteral("the alias \"%1\" has no %2%3").arg(alias.name, context, addition));
     }
 }
 
-void checkDefault(const Project& project, const Report& report)
+void checkDefault(const IconTable& table, const Report& report)
 {
-    const QString& required = TarnisIconHandler::defaultContextPathKey;
-    for (const IconTable& table : project.resources.iconTables) {
-        for (const JsonValue& alias : aliasesOf(table)) {
-            if (!contextsOf(alias).contains(required))
-                report(alias.namePlace, QStringLiteral("the alias \"%1\" has no %2").arg(alias.name, required));
-        }
-    }
+    reportLacking(table, TarnisIconHandler::defaultContextPathKey, QString(), report);
 }
 
-void checkInside(const Project& project, const Report& report)
+void checkMissingContexts(const IconTable& table, const Report& report)
 {
-    forEachPath(project, [&](const IconPath& path) {
-        const QString reason = wayOut(path.path);
-        if (!reason.isNull())
-            report(path.place, QStringLiteral("\"%1\" %2").arg(path.path, reason));
-    });
-}
-
-// Hands over what names no file inside, with the file that it would name in another case of letters, if any.
-template <typename Function>
-void forEachDeadPath(const Project& project, const Function& function)
-{
-    const IconFiles files(project.resources.iconDirectory);
-    forEachPath(project, [&](const IconPath& path) {
-        if (wayOut(path.path).isNull() && !isFileInside(project, path.path))
-            function(path, files.inOtherCase(path.path));
-    });
-}
-
-void checkExistence(const Project& project, const Report& report)
-{
-    forEachDeadPath(project, [&](const IconPath& path, const QString& inOtherCase) {
-        if (!inOtherCase.isNull())
-            return;
-        const bool exists = QFileInfo::exists(absolute(project, path.path));
-        report(path.place,
-               QStringLiteral("\"%1\" %2")
-                   .arg(path.path, exists ? QStringLiteral("is no file") : QStringLiteral("does not exist")));
-    });
-}
-
-void checkCase(const Project& project, const Report& report)
-{
-    forEachDeadPath(project, [&](const IconPath& path, const QString& inOtherCase) {
-        if (!inOtherCase.isNull())
-            report(path.place, QStringLiteral("\"%1\" does not exist, but \"%2\" does").arg(path.path, inOtherCase));
-    });
-}
-
-void checkImages(const Project& project, const Report& report)
-{
-    QSet<QString> seen;
-    forEachPath(project, [&](const IconPath& path) {
-        if (!isFileInside(project, path.path))
-            return;
-        // Many an icon is a link to another.
-        const QFileInfo file(absolute(project, path.path));
-        const QString identity = file.canonicalFilePath() + QLatin1Char('.') + file.suffix();
-        if (seen.contains(identity))
-            return;
-        seen.insert(identity);
-        const QString fault = ImageFile::fault(file.filePath());
-        if (!fault.isNull())
-            report(path.place, QStringLiteral("\"%1\" %2").arg(path.path, fault));
-    });
-}
-
-void checkMissingContexts(const QVector<JsonValue>& aliases, const Report& report)
-{
+    const QVector<JsonValue> aliases = aliasesOf(table);
     QHash<QString, int> counts;
     for (const JsonValue& alias : aliases) {
         for (const QString& context : contextsOf(alias))
@@ -176,75 +95,157 @@ void checkMissingContexts(const QVector<JsonValue>& aliases, const Report& repor
     }
     counts.remove(TarnisIconHandler::defaultContextPathKey);
     for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
-        if (*count * 2 <= aliases.size())
-            continue;
-        for (const JsonValue& alias : aliases) {
-            if (!contextsOf(alias).contains(count.key())) {
-                report(alias.namePlace,
-                       QStringLiteral("the alias \"%1\" has no %2, which %3 of %4 aliases have")
-                           .arg(alias.name, count.key(), QString::number(*count), QString::number(aliases.size())));
-            }
-        }
+        const QString addition = QStringLiteral(", which %1 of %2 aliases have").arg(*count).arg(aliases.size());
+        if (*count * 2 > aliases.size())
+            reportLacking(table, count.key(), addition, report);
     }
 }
 
-void checkMissingContexts(const Project& project, const Report& report)
+bool isOutside(const QString& path)
 {
-    for (const IconTable& table : project.resources.iconTables)
-        checkMissingContexts(aliasesOf(table), report);
+    const QString cleaned = QDir::cleanPath(path);
+    return path.startsWith(QLatin1Char('/')) || cleaned == QLatin1String("..")
+        || cleaned.startsWith(QLatin1String("../"));
 }
 
-void checkSameContent(const Project& project, const IconAlias& alias, const Report& report)
+void checkInside(const Project& project, const Report& report)
+{
+    for (const IconPath& path : pathsOf(project)) {
+        if (isOutside(path.path))
+            report(path.place, QStringLiteral("\"%1\" is no path below the icon directory").arg(path.path));
+    }
+}
+
+QFileInfo fileOf(const Project& project, const QString& path)
+{
+    return QFileInfo(project.resources.iconDirectory + QLatin1Char('/') + path);
+}
+
+bool isFileInside(const Project& project, const QString& path)
+{
+    return !isOutside(path) && fileOf(project, path).isFile();
+}
+
+// Those that are not hidden, as they are written, by their paths in one case of letters.
+QMultiHash<QString, QString> filesBelow(const QString& directory)
+{
+    QMultiHash<QString, QString> files;
+    for (QDirIterator iterator(directory, QDir::Files, QDirIterator::Subdirectories); iterator.hasNext();) {
+        const QString path = iterator.next().mid(directory.size() + 1);
+        files.insert(path.toCaseFolded(), path);
+    }
+    return files;
+}
+
+template <bool isCase>
+void checkExistence(const Project& project, const Report& report)
+{
+    const QMultiHash<QString, QString> files = filesBelow(project.resources.iconDirectory);
+    for (const IconPath& path : pathsOf(project)) {
+        const QString other = files.value(QDir::cleanPath(path.path).toCaseFolded());
+        if (isOutside(path.path) || other.isNull() == isCase || isFileInside(project, path.path))
+            continue;
+        const bool exists = fileOf(project, path.path).exists();
+        const QString fault = exists ? QStringLiteral("is no file") : QStringLiteral("does not exist");
+        const QString addition = isCase ? QStringLiteral(", but \"%1\" does").arg(other) : QString();
+        report(path.place, QStringLiteral("\"%1\" %2%3").arg(path.path, fault, addition));
+    }
+}
+
+// The reader of one format takes all of its family, whatever the file is called.
+QByteArray familyOf(const QByteArray& format)
+{
+    static const QHash<QByteArray, QByteArray> families{
+        {"jpg", "jpeg"}, {"svgz", "svg"}, {"cur", "ico"}, {"pgm", "pbm"}, {"ppm", "pbm"}};
+    return families.value(format, format);
+}
+
+// Why the picture cannot be shown as what its name says it is; null if it can.
+QString imageFault(const QFileInfo& file)
+{
+    static const QList<QByteArray> knownFormats = QImageReader::supportedImageFormats();
+    const QByteArray suffix = file.suffix().toLower().toLatin1();
+    QImageReader reader(file.filePath());
+    reader.setDecideFormatFromContent(true);
+    const QByteArray format = reader.format();
+    const QString formatName = QString::fromLatin1(format.toUpper());
+    if (format.isEmpty())
+        return QStringLiteral("is of no format that can be shown");
+    if (knownFormats.contains(suffix) && familyOf(suffix) != familyOf(format))
+        return QStringLiteral("is not what its name says, but %1").arg(formatName);
+    // For its size the whole of an SVG is read; drawing it takes long and cannot fail.
+    const bool isDrawable = !reader.size().isEmpty() && (familyOf(format) == "svg" || !reader.read().isNull());
+    return isDrawable ? QString() : QStringLiteral("is a broken %1, or one without a size").arg(formatName);
+}
+
+void checkImages(const Project& project, const Report& report)
+{
+    // What Qt's readers have to say of a fault would stand among the findings.
+    const QtMessageHandler handler =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    QSet<QString> seen;
+    for (const IconPath& path : pathsOf(project)) {
+        const QFileInfo file = fileOf(project, path.path);
+        // Many an icon is a link to another.
+        const QString identity = file.canonicalFilePath() + QLatin1Char('.') + file.suffix();
+        if (!isFileInside(project, path.path) || seen.contains(identity))
+            continue;
+        seen.insert(identity);
+        const QString fault = imageFault(file);
+        if (!fault.isNull())
+            report(path.place, QStringLiteral("\"%1\" %2").arg(path.path, fault));
+    }
+    qInstallMessageHandler(handler);
+}
+
+void reportSame(const Project& project, const IconAlias& alias, const Report& report)
 {
     QHash<QByteArray, QString> contexts;
     for (const IconPath& path : alias.paths) {
-        QString problem;
         if (!isFileInside(project, path.path))
             continue;
-        const QByteArray content = RegularFile::readAll(absolute(project, path.path), problem);
+        QString problem;
+        const QByteArray content = RegularFile::readAll(fileOf(project, path.path).filePath(), problem);
         const QString first = contexts.value(content, path.context);
         contexts.insert(content, first);
-        if (first != path.context) {
-            report(path.place,
-                   QStringLiteral("the alias \"%1\" has the same icon for %2 and %3")
-                       .arg(alias.name, first, path.context));
-        }
+        if (first != path.context)
+            report(path.place, QStringLiteral("the alias \"%1\" has this icon for %2 too").arg(alias.name, first));
     }
 }
 
-void checkSameContent(const Project& project, const Report& report)
+void checkSame(const Project& project, const Report& report)
 {
     for (const IconTable& table : project.resources.iconTables) {
         for (const IconAlias& alias : table.aliases)
-            checkSameContent(project, alias, report);
+            reportSame(project, alias, report);
     }
 }
 
-bool isMappingTable(const QString& path)
+// What the tables name, in whatever case of letters, or what links among it lead to.
+QSet<QString> usedFiles(const Project& project, const QMultiHash<QString, QString>& files)
 {
-    return path.startsWith(QLatin1String("mapping")) && path.endsWith(QLatin1String(".json"))
-        && !path.contains(QLatin1Char('/'));
+    QSet<QString> used;
+    for (const IconPath& path : pathsOf(project)) {
+        const QFileInfo file = fileOf(project, path.path);
+        const QString inAnyCase = files.value(QDir::cleanPath(path.path).toCaseFolded());
+        used.insert((file.exists() ? file : fileOf(project, inAnyCase)).canonicalFilePath());
+    }
+    return used;
 }
 
-void checkUnusedFiles(const Project& project, const Report& report)
+void checkUnused(const Project& project, const Report& report)
 {
-    for (const IconTable& table : project.resources.iconTables) {
-        if (!table.file.problem().isNull() || !table.file.fault().isNull())
-            return;
-    }
-    const IconFiles files(project.resources.iconDirectory);
+    const QVector<IconTable>& tables = project.resources.iconTables;
+    if (!std::all_of(tables.begin(), tables.end(), [](const IconTable& table) { return isSound(table.file); }))
+        return;
+    const QMultiHash<QString, QString> files = filesBelow(project.resources.iconDirectory);
+    const QSet<QString> used = usedFiles(project, files);
     const QDir directory(QFileInfo(project.resources.iconDirectory).canonicalFilePath());
-    QSet<QString> used; // with what links lead to
-    forEachPath(project, [&](const IconPath& path) {
-        const QString file = directory.filePath(QDir::cleanPath(path.path));
-        used.insert(file);
-        used.insert(QFileInfo(file).canonicalFilePath());
-        used.insert(directory.filePath(files.inOtherCase(path.path)));
-    });
-    for (const QString& path : files.paths()) {
-        const QFileInfo file(directory.filePath(path));
-        if (!isMappingTable(path) && !used.contains(file.filePath()) && !file.isSymLink())
-            report({absolute(project, path)}, QStringLiteral("is named in no mapping table"));
+    const QRegularExpression tableName(QStringLiteral("\\Amapping[^/]*\\.json\\z"));
+    for (const QString& path : files) {
+        const QFileInfo file = fileOf(project, path);
+        if (!used.contains(directory.filePath(path)) && !file.isSymLink() && !tableName.match(path).hasMatch())
+            report({file.filePath()}, QStringLiteral("is named in no mapping table"));
     }
 }
 
@@ -254,40 +255,31 @@ QVector<Rule> iconRules()
 {
     return {
         {QStringLiteral("icon-json"), Severity::Error,
-         QStringLiteral("A mapping table that is no JSON object gives no icon at all; an alias or a path of the wrong "
-                        "type is left out, with a warning in the log."),
-         checkJson},
+         QStringLiteral("A device leaves out what is not of this form, and warns of it in the log."),
+         forEachTable<checkJson>},
         {QStringLiteral("icon-duplicate-alias"), Severity::Error,
          QStringLiteral("Of several aliases under one name a device keeps one, not always the last."),
-         checkDuplicateAliases},
+         forEachTable<checkDuplicateAliases>},
         {QStringLiteral("icon-duplicate-context"), Severity::Error,
          QStringLiteral("Of several contexts under one name a device keeps one, not always the last."),
-         checkDuplicateContexts},
+         forEachTable<checkDuplicateContexts>},
         {QStringLiteral("icon-no-default"), Severity::Error,
-         QStringLiteral(
-             "Where an alias does not list the context that is asked for, the default one stands in; without "
-             "it there is no icon."),
-         checkDefault},
+         QStringLiteral("In a context that the alias does not list, no icon is shown."), forEachTable<checkDefault>},
         {QStringLiteral("icon-missing-file"), Severity::Error,
-         QStringLiteral("An icon whose file does not exist is not shown."), checkExistence},
+         QStringLiteral("An icon whose file does not exist is not shown."), checkExistence<false>},
         {QStringLiteral("icon-outside"), Severity::Error,
-         QStringLiteral("Paths start at the icon directory; what lies outside is not brought to the device with it."),
-         checkInside},
+         QStringLiteral("Only what lies below the icon directory comes to the device with it."), checkInside},
         {QStringLiteral("icon-case"), Severity::Error,
-         QStringLiteral("A device tells capital letters from small ones in the names of files: the icon is not shown."),
-         checkCase},
+         QStringLiteral("Capital letters count in the names of files: the icon is not shown."), checkExistence<true>},
         {QStringLiteral("icon-unreadable"), Severity::Error,
-         QStringLiteral("An image that cannot be read, or is not what its name says, is not shown as it should."),
+         QStringLiteral("A picture that cannot be read, or is not what its name says, is not shown as meant."),
          checkImages},
         {QStringLiteral("icon-missing-context"), Severity::Warning,
-         QStringLiteral("Where an alias lacks a context, the icon of the default one is shown among those of the "
-                        "context."),
-         checkMissingContexts},
+         QStringLiteral("The icon of the default context is shown among those of the missing one."),
+         forEachTable<checkMissingContexts>},
         {QStringLiteral("icon-same"), Severity::Warning,
-         QStringLiteral("An icon that is the same in two contexts does not change when the context does."),
-         checkSameContent},
+         QStringLiteral("The icon does not change when the context does."), checkSame},
         {QStringLiteral("icon-unused-file"), Severity::Warning,
-         QStringLiteral("A file that no mapping table names takes room on the device and is never shown."),
-         checkUnusedFiles},
+         QStringLiteral("The file takes room on the device and is never shown."), checkUnused},
     };
 }

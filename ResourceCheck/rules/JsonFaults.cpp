@@ -2,23 +2,37 @@
 
 #include <QHash>
 
+bool isSound(const JsonFile& file)
+{
+    return file.problem().isNull() && file.fault().isNull();
+}
+
 void reportFault(const JsonFile& file, const Report& report)
 {
     if (!file.fault().isNull())
         report(file.faultPlace(), file.fault());
 }
 
+void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QString& kind, const Report& report)
+{
+    const QString typeName = type == JsonValue::Type::Object ? QStringLiteral("object") : QStringLiteral("string");
+    for (const JsonValue& member : object.members) {
+        if (member.type != type)
+            report(member.place, QStringLiteral("the %1 \"%2\" is no %3").arg(kind, member.name, typeName));
+    }
+}
+
 void reportDuplicates(const JsonValue& object, const QString& kind, const Report& report)
 {
-    QHash<QString, int> firstLines;
+    QHash<QString, QString> firstLines;
     for (const JsonValue& member : object.members) {
-        const auto first = firstLines.constFind(member.name);
-        if (first == firstLines.constEnd()) {
-            firstLines.insert(member.name, member.namePlace.line);
-            continue;
-        }
-        report(member.namePlace,
-               QStringLiteral("the %1 \"%2\" is in line %3 already; a device keeps one of them, not always the last")
-                   .arg(kind, member.name, QString::number(*first)));
+        const QString first = firstLines.value(member.name);
+        if (first.isNull())
+            firstLines.insert(member.name, QString::number(member.namePlace.line));
+        else
+            report(
+                member.namePlace,
+                QStringLiteral("the %1 \"%2\" is in line %3 already; a device keeps one of them, not always the last")
+                    .arg(kind, member.name, first));
     }
 }

@@ -3,8 +3,14 @@
 #include "ResourceCheck/JsonFile.h"
 #include "ResourceCheck/Rule.h"
 
+/// Whether the file could be read and is one JSON object. What is not brings no further findings.
+bool isSound(const JsonFile& file);
+
 /// Reports what keeps the text from being one JSON object, if anything does.
 void reportFault(const JsonFile& file, const Report& report);
 
-/// Reports each member of the object whose name an earlier one has. `kind` says what the names are, as in "alias".
+/// Reports each member of the object that is not of the type. `kind` says what the members are, as in "alias".
+void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QString& kind, const Report& report);
+
+/// Reports each member of the object whose name an earlier one has.
 void reportDuplicates(const JsonValue& object, const QString& kind, const Report& report);

@@ -4,30 +4,32 @@
 #include "ResourceCheck/rules/JsonFaults.h"
 
 #include <QFileInfo>
-#include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QSet>
 
-#include <algorithm>
-#include <iterator>
-#include <optional>
-
 namespace
 {
 
-const TextFile* soundFile(const Project& project, const QString& filename)
+template <void (*check)(const Project& project, const TextFile& text, const Report& report)>
+void forEachText(const Project& project, const Report& report)
+{
+    for (const TextFile& text : project.resources.texts)
+        check(project, text, report);
+}
+
+const TextFile* soundText(const Project& project, const QString& filename)
 {
     for (const TextFile& text : project.resources.texts) {
-        if (QFileInfo(text.file.path()).fileName() == filename)
-            return text.file.problem().isNull() && text.file.fault().isNull() ? &text : nullptr;
+        if (QFileInfo(text.file.path()).fileName() == filename && isSound(text.file))
+            return &text;
     }
     return nullptr;
 }
 
-const TextFile* reference(const Project& project)
+const TextFile* englishText(const Project& project)
 {
-    return soundFile(project, LanguageDefinitions::getSecondFallbackLanguageFilename());
+    return soundText(project, LanguageDefinitions::getSecondFallbackLanguageFilename());
 }
 
 // With those whose text is of the wrong type.
@@ -49,65 +51,43 @@ bool isLocale(const QString& name)
     return locale.language() != QLocale::C && (isLanguage || known == QString(name).remove(script));
 }
 
-void checkJson(const Project& project, const Report& report)
+void checkJson(const Project&, const TextFile& text, const Report& report)
 {
-    for (const TextFile& text : project.resources.texts) {
-        reportFault(text.file, report);
-        for (const JsonValue& member : text.file.root().members) {
-            if (member.type != JsonValue::Type::String)
-                report(member.place, QStringLiteral("the text of \"%1\" is no string").arg(member.name));
-        }
-    }
+    reportFault(text.file, report);
+    reportOtherTypes(text.file.root(), JsonValue::Type::String, QStringLiteral("text of"), report);
 }
 
-void checkDuplicates(const Project& project, const Report& report)
+void checkDuplicates(const Project&, const TextFile& text, const Report& report)
 {
-    for (const TextFile& text : project.resources.texts)
-        reportDuplicates(text.file.root(), QStringLiteral("URL"), report);
+    reportDuplicates(text.file.root(), QStringLiteral("URL"), report);
 }
 
-// What the language and its own fall-backs offer; nothing when one of them cannot tell.
-std::optional<QSet<QString>> offeredUrls(const Project& project, const QString& language)
+void checkMissing(const Project& project, const TextFile& text, const Report& report)
 {
-    QSet<QString> urls;
-    for (const QString& name : {language, language.section(QLatin1Char('_'), 0, 0)}) {
-        const TextFile* text = soundFile(project, name + QStringLiteral(".json"));
-        if (!text)
-            return std::nullopt;
-        urls.unite(urlsOf(*text));
-    }
-    return urls;
-}
-
-void checkMissing(const Project& project, const Report& report)
-{
-    const TextFile* english = reference(project);
-    for (const TextFile& text : project.resources.texts) {
-        std::optional<QSet<QString>> offered = offeredUrls(project, text.language);
-        if (!english || !offered || !isLocale(text.language))
+    const QString base = text.language.section(QLatin1Char('_'), 0, 0);
+    const TextFile* fallback = soundText(project, base + QStringLiteral(".json"));
+    const TextFile* english = englishText(project);
+    if (!english || !fallback || !isSound(text.file) || !isLocale(text.language))
+        return;
+    QSet<QString> offered = urlsOf(text) + urlsOf(*fallback);
+    for (const JsonValue& member : english->texts) {
+        if (offered.contains(member.name))
             continue;
-        for (const JsonValue& member : english->texts) {
-            if (!offered->contains(member.name)) {
-                offered->insert(member.name);
-                report(
-                    {text.file.path(), 1, 1},
-                    QStringLiteral("no text for \"%1\", in English \"%2\"").arg(member.name, member.text.simplified()));
-            }
-        }
+        offered.insert(member.name);
+        report({text.file.path(), 1, 1},
+               QStringLiteral("no text for \"%1\", in English \"%2\"").arg(member.name, member.text.simplified()));
     }
 }
 
-void checkExtra(const Project& project, const Report& report)
+void checkExtra(const Project& project, const TextFile& text, const Report& report)
 {
-    const TextFile* english = reference(project);
+    const TextFile* english = englishText(project);
     if (!english)
         return;
     const QSet<QString> known = urlsOf(*english);
-    for (const TextFile& text : project.resources.texts) {
-        for (const JsonValue& member : text.file.root().members) {
-            if (!known.contains(member.name))
-                report(member.namePlace, QStringLiteral("\"%1\" has no text in English").arg(member.name));
-        }
+    for (const JsonValue& member : text.file.root().members) {
+        if (!known.contains(member.name))
+            report(member.namePlace, QStringLiteral("\"%1\" has no text in English").arg(member.name));
     }
 }
 
@@ -117,74 +97,60 @@ QStringList placeholdersOf(const QString& text)
     QStringList placeholders;
     for (auto matches = pattern.globalMatch(text); matches.hasNext();)
         placeholders.append(matches.next().captured());
-    std::sort(placeholders.begin(), placeholders.end());
     return placeholders;
-}
-
-// Of two sorted lists.
-QString difference(const QStringList& left, const QStringList& right)
-{
-    QStringList result;
-    std::set_difference(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(result));
-    return result.join(QStringLiteral(", "));
 }
 
 void comparePlaceholders(const JsonValue& text, const QString& english, const Report& report)
 {
-    const QStringList expected = placeholdersOf(english);
-    const QStringList found = placeholdersOf(text.text);
+    QStringList extra = placeholdersOf(text.text);
+    QStringList missing;
+    for (const QString& placeholder : placeholdersOf(english)) {
+        if (!extra.removeOne(placeholder))
+            missing.append(placeholder);
+    }
+    const QString separator = QStringLiteral(", ");
     QStringList faults;
-    const QString missing = difference(expected, found);
     if (!missing.isEmpty())
-        faults.append(QStringLiteral("lacks %1").arg(missing));
-    const QString extra = difference(found, expected);
+        faults.append(QStringLiteral("lacks ") + missing.join(separator));
     if (!extra.isEmpty())
-        faults.append(QStringLiteral("has %1 too many").arg(extra));
+        faults.append(QStringLiteral("has too many of ") + extra.join(separator));
     if (!faults.isEmpty()) {
         report(text.place,
-               QStringLiteral("the text of \"%1\" %2, in English \"%3\"")
+               QStringLiteral("the text of \"%1\" %2; in English it is \"%3\"")
                    .arg(text.name, faults.join(QStringLiteral(" and ")), english.simplified()));
     }
 }
 
-void checkPlaceholders(const Project& project, const Report& report)
+void checkPlaceholders(const Project& project, const TextFile& text, const Report& report)
 {
-    const TextFile* english = reference(project);
+    const TextFile* english = englishText(project);
     if (!english)
         return;
-    QHash<QString, QString> englishTexts;
-    for (const JsonValue& text : english->texts) // which of two under one URL counts is open
-        englishTexts.insert(text.name, englishTexts.contains(text.name) ? QString() : text.text);
-    for (const TextFile& text : project.resources.texts) {
-        for (const JsonValue& member : text.texts) {
-            const QString expected = englishTexts.value(member.name);
-            if (!expected.isEmpty() && !member.text.isEmpty())
-                comparePlaceholders(member, expected, report);
-        }
+    QHash<QString, QString> expected;
+    for (const JsonValue& member : english->texts) // which of two under one URL counts is open
+        expected.insert(member.name, expected.contains(member.name) ? QString() : member.text);
+    for (const JsonValue& member : text.texts) {
+        const QString englishText = expected.value(member.name);
+        if (!englishText.isEmpty() && !member.text.isEmpty())
+            comparePlaceholders(member, englishText, report);
     }
 }
 
-void checkEmpty(const Project& project, const Report& report)
+void checkEmpty(const Project&, const TextFile& text, const Report& report)
 {
-    for (const TextFile& text : project.resources.texts) {
-        for (const JsonValue& member : text.texts) {
-            if (member.text.isEmpty())
-                report(member.place, QStringLiteral("the text of \"%1\" is empty").arg(member.name));
-        }
+    for (const JsonValue& member : text.texts) {
+        if (member.text.isEmpty())
+            report(member.place, QStringLiteral("the text of \"%1\" is empty").arg(member.name));
     }
 }
 
-void checkNames(const Project& project, const Report& report)
+void checkName(const Project&, const TextFile& text, const Report& report)
 {
-    for (const TextFile& text : project.resources.texts) {
-        const QFileInfo file(text.file.path());
-        if (file.suffix() != QLatin1String("json"))
-            report({file.filePath()}, QStringLiteral("does not end in .json, in small letters"));
-        if (!isLocale(text.language)) {
-            report({file.filePath()},
-                   QStringLiteral("\"%1\" is no name of a locale, such as \"de\" or \"de_AT\"").arg(text.language));
-        }
-    }
+    const QString path = text.file.path();
+    if (!path.endsWith(QLatin1String(".json")))
+        report({path}, QStringLiteral("does not end in .json, in small letters"));
+    if (!isLocale(text.language))
+        report({path}, QStringLiteral("\"%1\" is no locale, as de or de_AT is").arg(text.language));
 }
 
 } // namespace
@@ -193,24 +159,22 @@ QVector<Rule> textRules()
 {
     return {
         {QStringLiteral("text-json"), Severity::Error,
-         QStringLiteral("A file that is no JSON object gives no text at all, and a text that is no string is left out; "
-                        "both are warned of in the log."),
-         checkJson},
+         QStringLiteral("A device leaves out what is not of this form, and warns of it in the log."),
+         forEachText<checkJson>},
         {QStringLiteral("text-duplicate"), Severity::Error,
-         QStringLiteral("Of several texts under one URL a device keeps one, not always the last."), checkDuplicates},
+         QStringLiteral("Of several texts under one URL a device keeps one, not always the last."),
+         forEachText<checkDuplicates>},
         {QStringLiteral("text-missing"), Severity::Warning,
-         QStringLiteral("A text that a language and those it falls back to lack is shown in English."), checkMissing},
+         QStringLiteral("What a language and those it falls back to lack is shown in English."),
+         forEachText<checkMissing>},
         {QStringLiteral("text-extra"), Severity::Warning,
-         QStringLiteral("A URL that English lacks is shown itself, instead of a text, in the languages that lack it "
-                        "too."),
-         checkExtra},
+         QStringLiteral("Languages without the text show its URL instead."), forEachText<checkExtra>},
         {QStringLiteral("text-placeholder"), Severity::Error,
-         QStringLiteral("A placeholder that a translation lacks loses its value, and one that it has too many is shown "
-                        "as it is written."),
-         checkPlaceholders},
+         QStringLiteral("A value is not shown, or its placeholder is."), forEachText<checkPlaceholders>},
         {QStringLiteral("text-empty"), Severity::Warning,
-         QStringLiteral("An empty text leaves its place on the screen empty, without falling back."), checkEmpty},
+         QStringLiteral("An empty text is shown as it is, without falling back."), forEachText<checkEmpty>},
         {QStringLiteral("text-language-name"), Severity::Error,
-         QStringLiteral("A device opens LANGUAGE.json, by the name of its locale, and no other file."), checkNames},
+         QStringLiteral("A device opens LANGUAGE.json, by the name of the locale, and no other file."),
+         forEachText<checkName>},
     };
 }
