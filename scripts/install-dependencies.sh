@@ -15,7 +15,7 @@ packages=(
 for option in "$@"; do
   case $option in
     --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy qtbase5-private-dev) ;;
-    --package) packages+=(lintian mmdebstrap qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
+    --package) packages+=(dpkg-dev file lintian mmdebstrap qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
     --valgrind) packages+=(valgrind libc6-dbg) ;;
     --benchmark) packages+=(
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev
