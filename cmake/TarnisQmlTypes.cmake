@@ -32,5 +32,9 @@ add_custom_command(OUTPUT tarnis.qmltypes DEPENDS ${descriptions}
         tarnis.qmltypes
     VERBATIM)
 add_custom_target(tarnis-qmltypes ALL DEPENDS tarnis.qmltypes)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarnis.qmltypes ${PROJECT_SOURCE_DIR}/Gallery/qmldir
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt5/qml/Tarnis COMPONENT development)
+# Beside the modules of Qt 5, where Qt Creator looks, and by themselves, for a qmllint of Qt 6, which must not be given
+# those.
+foreach(imports IN ITEMS ${CMAKE_INSTALL_LIBDIR}/qt5/qml ${CMAKE_INSTALL_DATADIR}/tarnis/qml)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarnis.qmltypes ${PROJECT_SOURCE_DIR}/Gallery/qmldir
+        DESTINATION ${imports}/Tarnis COMPONENT development)
+endforeach()

@@ -18,7 +18,6 @@ mv "$work/installed" "$prefix"
 foreign=$(grep -rlF -e "$PWD" -e "$work/installed" "$prefix" || true)
 [ -z "$foreign" ] || fail "these name the place where they were built or installed first: $foreign"
 pkgconfig=$(dirname "$(find "$prefix" -name tarnislibrary.pc)")
-imports=$(dirname "$pkgconfig")/qt5/qml
 resources=$prefix/share/tarnis/resources
 cp -r examples "$work"
 
@@ -31,13 +30,13 @@ start() {
 }
 
 start dbus-daemon --session --nofork --nopidfile --print-address
-export DBUS_SYSTEM_BUS_ADDRESS=$line
+export DBUS_SYSTEM_BUS_ADDRESS=$line XDG_RUNTIME_DIR=$work
 start "$prefix/bin/tarnis-module" --resources "$resources"
 [ "$line" = "Module.Tarnis publishes $resources" ] || fail "tarnis-module says: $line"
 CMAKE_PREFIX_PATH=$prefix PKG_CONFIG_PATH=$pkgconfig \
-  ./scripts/use-installed.sh "$work/examples" "$work" "$imports" "$resources"
+  ./scripts/use-installed.sh "$work/examples" "$work" "$prefix/share/tarnis"
 start Xvfb -displayfd 1 -screen 0 1280x800x24 -nolisten tcp
-DISPLAY=:$line QML2_IMPORT_PATH=$imports timeout 60 "$prefix/bin/tarnis-gallery" --screenshot "$work/gallery.png"
+DISPLAY=:$line QML2_IMPORT_PATH=$prefix/share/tarnis/qml timeout 60 "$prefix/bin/tarnis-gallery" --screenshot "$work/gallery.png"
 
 if [ "${1:-}" = --lint ]; then
   for example in host own-platform; do

@@ -31,12 +31,14 @@ mount -t proc proc "$root/proc"
 mount --bind /dev "$root/dev"
 # The bus as Debian configures it, without systemd: the first call starts the service as its user.
 timeout 300 chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root bash -euo pipefail -c '
-  mkdir -p /run/dbus /root/work
+  mkdir /run/dbus /root/work
+  chmod 700 /root/work
+  export XDG_RUNTIME_DIR=/root/work
   exec {output}< <(exec dbus-daemon --system --nofork --nopidfile --print-address 2>/root/bus.log)
   read -r -t 20 address <&"$output" || { cat /root/bus.log >&2; exit 1; }
   tarnis-gallery --dump >/root/dump.json
-  grep -q "\"Abbrechen\"\|\"Cancel\"" /root/dump.json
+  grep -q "\"text://Button/Ok\": \"OK\"" /root/dump.json
   user=$(stat -c %U /proc/"$(pgrep -x tarnis-module)")
   [ "$user" = tarnis ] || { echo "the service runs as $user" >&2; exit 1; }
-  /root/use-installed.sh /root/examples /root/work /usr/lib/*/qt5/qml /usr/share/tarnis/resources'
+  /root/use-installed.sh /root/examples /root/work /usr/share/tarnis'
 echo "Packages installed and of use in a clean Debian 12 after $SECONDS s."

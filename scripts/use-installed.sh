@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Uses an installed tree as another project would: use-installed.sh EXAMPLES WORK_DIRECTORY QML_IMPORTS RESOURCES
-# CMAKE_PREFIX_PATH and PKG_CONFIG_PATH say where the tree lies; on the system bus the service publishes the resources.
+# Uses an installed tree as another project would: use-installed.sh EXAMPLES WORK_DIRECTORY DATA_DIRECTORY
+# CMAKE_PREFIX_PATH and PKG_CONFIG_PATH say where the tree lies; on the system bus the service publishes its resources.
 set -euo pipefail
-examples=$1 work=$2 imports=$3 resources=$4
+examples=$1 work=$2 imports=$3/qml resources=$3/resources
 scripts=$(dirname "$0")
-export XDG_RUNTIME_DIR=$work QT_FONT_DPI=96 QT_QPA_PLATFORM=minimal QT_QUICK_BACKEND=software
+export QT_FONT_DPI=96 QT_QPA_PLATFORM=minimal QT_QUICK_BACKEND=software
 export QML2_IMPORT_PATH=$imports # the types must not stand in the way of the program's own module
 
 fail() { echo "$*" >&2; exit 1; }
