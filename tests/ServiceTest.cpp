@@ -9,6 +9,7 @@
 #include <QDBusVirtualObject>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 #include <iostream>
 #include <optional>
@@ -58,6 +59,27 @@ struct FakeService : QDBusVirtualObject {
         return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(echo)))));
     }
 };
+
+// Each element of the named interface in its order, with its attributes.
+QStringList elements(const QByteArray& introspection, const QString& interfaceName)
+{
+    QStringList found;
+    bool isWanted = false;
+    QXmlStreamReader reader(introspection);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        QStringList attributes;
+        for (const QXmlStreamAttribute& attribute : reader.attributes())
+            attributes += attribute.name() + '=' + attribute.value();
+        attributes.sort();
+        if (reader.name() == "interface")
+            isWanted = attributes.contains("name=" + interfaceName);
+        if (isWanted)
+            found += reader.name() + ' ' + attributes.join(' ');
+    }
+    return found;
+}
 
 int serve()
 {
@@ -191,6 +213,20 @@ private Q_SLOTS:
         QCOMPARE(ask(), expected);
         const QString record = log.take().value(0);
         QVERIFY2(record.contains(directory->filePath(name)) && record.contains(reason), qPrintable(record));
+    }
+
+    void moduleOffersWhatTheContractsSay()
+    {
+        startModule();
+        for (const QString object : {"DeviceUiResources", "IconProvider"}) {
+            const QDBusReply<QString> offer = QDBusConnection::systemBus().call(QDBusMessage::createMethodCall(
+                "Module.Tarnis", "/Tarnis/" + object, "org.freedesktop.DBus.Introspectable", "Introspect"));
+            QFile contract(RESOURCES "/../TarnisModule/Interface." + object + ".xml");
+            QVERIFY(contract.open(QIODevice::ReadOnly));
+            const QStringList expected = elements(contract.readAll(), "Interface." + object);
+            QVERIFY(expected.size() > 2);
+            QCOMPARE(elements(offer.value().toUtf8(), "Interface." + object), expected);
+        }
     }
 
     void moduleSaysWhyItLeaves_data() { addRows(departures); }

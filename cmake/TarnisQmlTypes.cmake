@@ -1,0 +1,40 @@
+# The types of the QML module Tarnis, for Qt Creator and qmllint, from the meta-objects of these headers.
+set(headers Gallery/QmlTypes.h Gallery/UiResources.h
+    TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h
+    TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h
+    TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h
+    TarnisLibrary/DeviceUiResourcesLibrary/TarnisTextHandler.h
+    TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h)
+set(includes $<TARGET_PROPERTY:GalleryParts,INCLUDE_DIRECTORIES>)
+get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+get_filename_component(qt_programs ${qmake} DIRECTORY)
+get_target_property(qt_core Qt5::Core LOCATION)
+get_filename_component(qt_libraries ${qt_core} DIRECTORY)
+
+set(descriptions)
+foreach(header IN LISTS headers)
+    get_filename_component(name ${header} NAME_WE)
+    set(output ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
+    add_custom_command(OUTPUT ${output}.json BYPRODUCTS ${output} DEPENDS ${PROJECT_SOURCE_DIR}/${header}
+        COMMAND Qt5::moc "-I$<JOIN:${includes},;-I>" --output-json -o ${output} ${PROJECT_SOURCE_DIR}/${header}
+        COMMAND_EXPAND_LISTS VERBATIM)
+    list(APPEND descriptions ${output}.json)
+endforeach()
+
+# Qt 6's readers want a revision that holds the major version, dependencies in the qmldir file, and no type to look up
+# the keys of a map in.
+add_custom_command(OUTPUT tarnis.qmltypes DEPENDS ${descriptions}
+    COMMAND Qt5::moc --collect-json -o types.json ${descriptions}
+    COMMAND ${qt_programs}/qmltyperegistrar --generate-qmltypes=tarnis.qmltypes --import-name=Tarnis
+        --major-version=1 --minor-version=0 --foreign-types=${qt_libraries}/metatypes/qt5core_metatypes.json
+        -o registration.cpp types.json
+    COMMAND sed -i -e "/dependencies:/d" -e "s/Revisions: .0./Revisions: [256]/" -e s/QVariantMap/QVariant/
+        tarnis.qmltypes
+    VERBATIM)
+add_custom_target(tarnis-qmltypes ALL DEPENDS tarnis.qmltypes)
+# Beside the modules of Qt 5, where Qt Creator looks, and by themselves, for a qmllint of Qt 6, which must not be given
+# those.
+foreach(imports IN ITEMS ${CMAKE_INSTALL_LIBDIR}/qt5/qml ${CMAKE_INSTALL_DATADIR}/tarnis/qml)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarnis.qmltypes ${PROJECT_SOURCE_DIR}/Gallery/qmldir
+        DESTINATION ${imports}/Tarnis COMPONENT development)
+endforeach()

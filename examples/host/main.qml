@@ -1,0 +1,28 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import Tarnis 1.0
+
+Window {
+    width: 320
+    height: 160
+    visible: true
+    color: Ui.colors.getColor("Day", "Background")
+
+    Row {
+        anchors.centerIn: parent
+        spacing: 16
+
+        Image {
+            source: Ui.icons.getIconPathAsFileUrl("home", "nightMode")
+        }
+
+        Text {
+            color: Ui.colors.getColor("Day", "Text")
+            font.family: Ui.fonts.getFontFamily("Text")
+            font.pointSize: Ui.fonts.getFontPointSize("Text", "Button")
+            height: Ui.dimensions.uiElementDimensions["Button/height"]
+            text: Ui.texts.translatedTexts["text://Button/Ok"]
+            Component.onCompleted: console.log(color, font.family, font.pointSize, height, text)
+        }
+    }
+}
