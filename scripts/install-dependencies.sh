@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that are missing: install-dependencies.sh [--lint] [--benchmark] [--valgrind]
+# Installs the Debian packages that are missing: install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs]
 # --lint adds what CI needs besides: the second compiler, its fuzzers, the formatter and the linter.
+# --docs adds what makes the reference of the headers.
 # --valgrind adds valgrind; --benchmark adds the benchmarks' library, what they compare with, and what counts and draws.
 set -euo pipefail
 
@@ -14,6 +15,7 @@ packages=(
 for option in "$@"; do
   case $option in
     --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy qtbase5-private-dev) ;;
+    --docs) packages+=(doxygen) ;;
     --valgrind) packages+=(valgrind libc6-dbg) ;;
     --benchmark) packages+=(
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev
