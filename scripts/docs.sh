@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Makes the reference of the public headers and checks the pages beside it: docs.sh
-# Leaves build/docs/html/annotated.html. Fails on every warning of Doxygen, and on a link of a Markdown page that leads
-# to no file or no heading.
+# Leaves build/docs/html/annotated.html. Fails on every warning of Doxygen, on a link of a Markdown page that leads to no
+# file or no heading, and where docs/getting-started.md shows another host than examples/host.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh --docs
@@ -26,5 +26,10 @@ while IFS= read -r -d '' page; do
     failures=$((failures + 1))
   done
 done < <(git ls-files -z --cached --others --exclude-standard '*.md')
+for file in $(git ls-files --cached --others --exclude-standard examples/host); do
+  [[ $(<docs/getting-started.md) = *"$(<"$file")"* ]] && continue
+  echo "docs/getting-started.md: does not show $file as it is" >&2
+  failures=$((failures + 1))
+done
 [ "$failures" -eq 0 ]
 echo "build/docs/html/annotated.html; $links links checked"
