@@ -17,6 +17,7 @@ class Q_DECL_EXPORT DBusConnectorBase : public QObject
     Q_OBJECT
 
 public:
+    /// The bus on which the remote object is looked for.
     enum ConnectionMode { SystemBus = 0, SessionBus = 1 };
 
     /// Addresses the object `/moduleName/objectName` with the interface `interfaceName` of the bus name
@@ -26,8 +27,10 @@ public:
                       QObject* parent, ConnectionMode connectionMode);
     ~DBusConnectorBase() override;
 
-    /// For derived classes: connect to the signals of the remote object, and disconnect. They do nothing here.
+    /// For derived classes: connects to the signals of the remote object. Does nothing here, and nothing calls it.
     virtual void connectServices();
+
+    /// Undoes connectServices(). Does nothing here, and nothing calls it.
     virtual void disconnectServices();
 
     /// False when the bus is not connected or the three names make no legal address. A service that is merely not

@@ -20,11 +20,17 @@ public:
 
     /// Turns the reply into an error reply; its value becomes invalid.
     void setError(int errorCode, const QString& errorMessage);
+
+    /// False for a new reply.
     bool isError() const;
+
+    /// Code 0 and a null message unless isError(). Lives as long as this object.
     const ErrorContainer& getError() const;
 
     /// Turns the reply into a successful one.
     void setValue(const QVariant& replyValue);
+
+    /// Invalid in an error reply.
     QVariant getValue() const;
 
 private:

@@ -7,10 +7,10 @@
 
 /// One `name=value` line of an INI file.
 struct IniEntry {
-    QString group;
-    QString key;
-    QString value;
-    int line;
+    QString group; ///< Empty before the first group line.
+    QString key;   ///< Never empty.
+    QString value; ///< Without the blanks and the pair of quotes around it.
+    int line;      ///< From 1.
 };
 Q_DECLARE_TYPEINFO(IniEntry, Q_MOVABLE_TYPE);
 
@@ -29,6 +29,7 @@ public:
     /// The entry given last under these names, or null. Valid until the next append().
     const IniEntry* find(const QString& group, const QString& key) const;
 
+    /// In the order in which they were appended, those of names given again included.
     const QVector<IniEntry>& list() const { return entries; }
 
 private:

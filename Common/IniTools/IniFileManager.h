@@ -18,14 +18,16 @@ public:
     IniFileManager(const QString& path, const char* codec);
     ~IniFileManager();
 
+    /// Whether the file has the key in the group, with whatever value.
     bool contains(const QString& group, const QString& key) const;
 
+    /// The text of the value; the default when the file has no such key.
     QString getValueString(const QString& group, const QString& key, const QString& defaultValue) const;
 
-    /// The text of the value, in a QVariant.
+    /// The text of the value, in a QVariant; the default when the file has no such key.
     QVariant getValue(const QString& group, const QString& key, const QVariant& defaultValue) const;
 
-    /// The value as a decimal integer; anything else gives the default.
+    /// The value as a decimal integer; the default when it is none, or when the file has no such key.
     int getValueInteger(const QString& group, const QString& key, int defaultValue) const;
 
     /// In the order of the file; a group without keys is reported too.

@@ -20,13 +20,15 @@ class QTextCodec;
 class Q_DECL_EXPORT IniParser
 {
 public:
+    /// What is wrong with one line.
     struct Fault {
-        int line;
-        QString reason;
+        int line;       ///< From 1.
+        QString reason; ///< For people to read.
     };
 
     /// As of an empty file.
     IniParser() = default;
+    /// Parses the whole text at once. The codec is not needed afterwards.
     IniParser(const QByteArray& content, QTextCodec& codec);
 
     /// The groups in the order in which they are first named, those without an entry included.

@@ -16,6 +16,7 @@ class Q_DECL_EXPORT TextManager : public TextManagerBase
     Q_OBJECT
 
 public:
+    /// Reads the language and its fall-backs from `directory`, the one that holds the files.
     TextManager(const QString& directory, const QString& language, QObject* parent = nullptr);
 
     /// Reads the language and its fall-backs anew, then emits languageReloaded(); also when the name is the current

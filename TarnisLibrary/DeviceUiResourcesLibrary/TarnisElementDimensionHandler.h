@@ -40,6 +40,7 @@ public:
     void onScreenGeometryChanged(const QRect& geometry);
 
 Q_SIGNALS:
+    /// The dimensions have been loaded anew.
     void uiElementDimensionsChanged();
 
 private:

@@ -25,6 +25,7 @@ public:
     void updateTexts();
 
 Q_SIGNALS:
+    /// The texts have been built anew.
     void translatedTextsChanged();
 
 private:
