@@ -1,91 +1,27 @@
-// Whatever a service may answer with: written by libdbus, read by Qt, the reply record and the connector.
+// Whatever a service may answer with: written by libdbus, read by Qt, the reply record and the connectors.
 #define QT_LINKED_LIBDBUS
-#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
 #include "fuzz/Claims.h"
+#include "tests/support/Expectation.h"
 
-#include <QDBusMetaType>
-
-#include <dbus/dbus.h>
 #include <fuzzer/FuzzedDataProvider.h>
 #include <private/qdbusargument_p.h>
 
 namespace
 {
 
-using Sizes = QList<QPair<QSize, QString>>;
-
 const bool hasNoBus = qputenv("DBUS_SYSTEM_BUS_ADDRESS", "none:");
-QVariant answer; // to every call of the connector
+QVariant answer; // to every call of the connectors
 
-constexpr int deepestVariant = 3;
+struct Source {
+    FuzzedDataProvider input;
 
-QByteArray readText(FuzzedDataProvider& input)
+    int below(int end) { return input.ConsumeIntegralInRange(0, end - 1); }
+    qint64 bits() { return input.ConsumeIntegral<qint64>(); }
+};
+
+DBusMessage* write(const DBusValue& value)
 {
-    return QString(input.ConsumeRandomLengthString().c_str()).toUtf8();
-}
-
-// Without file descriptors, which Qt does not close.
-QByteArray readSignature(FuzzedDataProvider& input)
-{
-    const QByteArray signature = readText(input);
-    return dbus_signature_validate_single(signature, nullptr) && !signature.contains('h') ? signature : "s";
-}
-
-void writeBasic(DBusMessageIter& out, int type, FuzzedDataProvider& input)
-{
-    if (dbus_type_is_fixed(type)) {
-        const auto number = input.ConsumeIntegral<quint64>() & (type == DBUS_TYPE_BOOLEAN ? 1 : ~quint64(0));
-        dbus_message_iter_append_basic(&out, type, &number);
-        return;
-    }
-    QByteArray text = type == DBUS_TYPE_SIGNATURE ? readSignature(input) : readText(input);
-    if (type == DBUS_TYPE_OBJECT_PATH && !dbus_validate_path(text, nullptr))
-        text = "/";
-    const char* const begin = text;
-    dbus_message_iter_append_basic(&out, type, &begin);
-}
-
-void writeVariant(DBusMessageIter& out, const QByteArray& signature, FuzzedDataProvider& input, int depth);
-
-void writeMembers(DBusMessageIter& out, DBusSignatureIter types, FuzzedDataProvider& input, int depth)
-{
-    do {
-        const int type = dbus_signature_iter_get_current_type(&types);
-        if (type == DBUS_TYPE_VARIANT) {
-            writeVariant(out, depth < deepestVariant ? readSignature(input) : "s", input, depth + 1);
-        } else if (dbus_type_is_basic(type)) {
-            writeBasic(out, type, input);
-        } else {
-            DBusSignatureIter memberTypes;
-            dbus_signature_iter_recurse(&types, &memberTypes);
-            char* const signature = type == DBUS_TYPE_ARRAY ? dbus_signature_iter_get_signature(&memberTypes) : nullptr;
-            DBusMessageIter members;
-            dbus_message_iter_open_container(&out, type, signature, &members);
-            for (int count = type == DBUS_TYPE_ARRAY ? input.ConsumeIntegral<quint8>() % 4 : 1; count > 0; --count)
-                writeMembers(members, memberTypes, input, depth);
-            dbus_message_iter_close_container(&out, &members);
-            dbus_free(signature);
-        }
-    } while (dbus_signature_iter_next(&types));
-}
-
-void writeVariant(DBusMessageIter& out, const QByteArray& signature, FuzzedDataProvider& input, int depth)
-{
-    DBusSignatureIter types;
-    DBusMessageIter content;
-    dbus_signature_iter_init(&types, signature);
-    dbus_message_iter_open_container(&out, DBUS_TYPE_VARIANT, signature, &content);
-    writeMembers(content, types, input, depth);
-    dbus_message_iter_close_container(&out, &content);
-}
-
-DBusMessage* newMessage(const QByteArray& signature, FuzzedDataProvider& input, int depth)
-{
-    DBusMessage* const message = dbus_message_new(DBUS_MESSAGE_TYPE_METHOD_CALL);
-    DBusMessageIter out;
-    dbus_message_iter_init_append(message, &out);
-    writeVariant(out, signature, input, depth);
-    return message;
+    return DBusValue::appendTo(dbus_message_new(DBUS_MESSAGE_TYPE_METHOD_CALL), {value});
 }
 
 // Takes the message.
@@ -109,18 +45,6 @@ QByteArray bytesOf(DBusMessage* message)
     return bytes;
 }
 
-QByteArray bytesOf(const QVariant& value)
-{
-    QDBusArgument argument;
-    argument << QDBusVariant(value);
-    return bytesOf(QDBusArgumentPrivate::d(argument)->message);
-}
-
-bool isContainer(const QByteArray& signature)
-{
-    return (signature.startsWith('(') || signature.startsWith('a')) && signature != "ay";
-}
-
 } // namespace
 
 // Qt does not export what its header declares.
@@ -131,7 +55,7 @@ QDBusArgumentPrivate::~QDBusArgumentPrivate()
 
 QDBusDemarshaller::~QDBusDemarshaller() = default;
 
-// The connector calls these instead of Qt's: there is no bus.
+// The connectors call these instead of Qt's: there is no bus.
 bool QDBusConnection::isConnected() const
 {
     return true;
@@ -145,52 +69,44 @@ QDBusMessage QDBusAbstractInterface::doCall(QDBus::CallMode /*mode*/, const QStr
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static const TarnisDeviceUiResourcesDBusConnector connector;
-    static const int types = qDBusRegisterMetaType<QPair<QSize, QString>>() + qDBusRegisterMetaType<Sizes>();
-    FuzzedDataProvider input(data, size);
-    FuzzedDataProvider again(data, size);
-    const QByteArray signature = readSignature(input);
-    readSignature(again);
-    const QDBusVariant content = readByQt(newMessage(signature, input, 0));
-    answer = QVariant::fromValue(content);
-    DBusReply reply;
-    const auto record = qvariant_cast<QDBusArgument>(content.variant());
-    record >> reply;
-    logRecords = 0;
-    const Sizes sizes = connector.getSupportedDisplaySizes();
-    const QString path = connector.getColorIniFilePath();
-    answer = QVariant(); // Qt could not destroy it at the end of the process
+    static const Connectors connectors{};
+    Source source{{data, size}};
+    const DBusValue variant = DBusValueMaker<Source>{source}.answer();
+    const DBusValue& record = variant.members.at(0);
+    const QString error = Expectation::errorOf(record);
+    const DBusValue held = error.isNull() ? record.members.at(3) : DBusValue();
+    if (error.isNull() && held.members.at(0).signature == "h")
+        return 0; // Qt does not close it
 
-    bool isError = true;
-    int code = -1;
-    QString text = "Unexpected D-Bus reply record: found signature \""
-        + (isContainer(signature) && signature != "as" ? signature : "") + "\", expected \"(bisv)\"";
-    QByteArray valueSignature;
-    QByteArray value;
-    if (signature == "(bisv)") {
-        isError = again.ConsumeIntegral<quint64>() % 2 == 1;
-        code = static_cast<int>(again.ConsumeIntegral<quint64>());
-        text = readText(again);
-        valueSignature = readSignature(again);
-        DBusMessage* const message = newMessage(valueSignature, again, 1);
-        value = bytesOf(message);
+    const QDBusVariant content = readByQt(write(variant));
+    DBusReply reply;
+    const auto argument = qvariant_cast<QDBusArgument>(content.variant());
+    argument >> reply;
+    const int code = record.signature == "(bisv)" ? record.members.at(1).basic.toInt() : -1;
+    requireEqual(reply.isError(), !error.isNull(), "is it an error");
+    requireEqual(reply.getError().getErrorCode(), reply.isError() ? code : 0, "error code");
+    requireEqual(reply.getError().getErrorMessage(), error, "error message");
+    requireEqual(reply.getValue().isValid(), error.isNull(), "is there a value");
+    if (error.isNull()) {
+        const bool isArgument = reply.getValue().userType() == qMetaTypeId<QDBusArgument>();
+        const DBusValue& value = held.members.at(0);
+        requireEqual(isArgument, value.isArgument() || value.signature == "as", "is the value held as an argument");
+        QDBusArgument copy;
+        copy << QDBusVariant(reply.getValue());
+        DBusMessage* const message = write(held);
+        requireEqual(bytesOf(QDBusArgumentPrivate::d(copy)->message), bytesOf(message), "value");
         dbus_message_unref(message);
     }
-    requireEqual(reply.isError(), isError, "is it an error");
-    requireEqual(reply.getError().getErrorCode(), isError ? code : 0, "error code");
-    requireEqual(reply.getError().getErrorMessage(), isError ? text : "", "error message");
-    requireEqual(reply.getValue().isValid(), !isError, "is there a value");
-    if (!isError) {
-        const bool isArgument = reply.getValue().userType() == qMetaTypeId<QDBusArgument>();
-        requireEqual(isArgument, isContainer(valueSignature), "is the value held as an argument");
-        requireEqual(bytesOf(reply.getValue()), value, "value");
+
+    answer = QVariant::fromValue(content);
+    for (int number = 0; number < 5; ++number) {
+        const Expectation expected = Expectation::of(getters[number], variant);
+        logRecords = 0;
+        const QString result = connectors.ask(number);
+        requireEqual(result, expected.result, "result of a getter");
+        requireEqual(result.isNull(), expected.result.isNull(), "is there no result");
+        requireEqual(logRecords, expected.records.size(), "warnings of a getter");
     }
-    const bool isSizes = !isError && valueSignature == "a((ii)s)";
-    const bool isPath = !isError && !isContainer(valueSignature) && !QByteArray("ogvy").contains(valueSignature);
-    requireEqual(logRecords, (isSizes ? 0 : 1) + (isPath ? 0 : 1), "warnings of the getters");
-    requireEqual(isSizes ? bytesOf(QVariant::fromValue(sizes)) : value, value, "sizes");
-    requireEqual(isSizes || sizes.isEmpty(), true, "no sizes");
-    requireEqual(isPath && valueSignature == "s" ? bytesOf(path) : value, value, "path");
-    requireEqual(isPath || path.isNull(), true, "no path");
-    return types > 0 && hasNoBus ? 0 : -1;
+    answer = QVariant(); // Qt could not destroy it at the end of the process
+    return hasNoBus ? 0 : -1;
 }

@@ -1,6 +1,7 @@
 """Makes small seeds of the sample resources: seeds.py RESOURCES CORPUS"""
 import json
 import pathlib
+import random
 import sys
 
 resources, corpus = map(pathlib.Path, sys.argv[1:])
@@ -25,12 +26,5 @@ for name in list(aliases)[::6]:
     seed("MappingTableFuzzer", name, compact({name: aliases[name]}))
 for index, url in enumerate(list(texts["de"])[::6]):
     seed("TextCatalogueFuzzer", f"text-{index}", b"\xff".join(compact({url: texts[name].get(url)}) for name in texts))
-# A text ends with a backslash before another character; numbers are taken from the end.
-for name, texts_of_reply in {
-    "path": ["(bisv)", "", "s", "/usr/share/device/colors.ini"],
-    "error": ["(bisv)", "No such table", "s", ""],
-    "sizes": ["(bisv)", "", "a((ii)s)", "dimensions/800x480.ini", "dimensions/1024x600.ini"],
-    "nested": ["(bisv)", "", "a{sv}", "key", "(yv)", "ay"],
-    "other": ["(bs)", "text"],
-}.items():
-    seed("ReplyFuzzer", name, "\\ ".join(texts_of_reply + [""]).encode() + bytes([2] * 8 + [0] * 16 + [name == "error"]))
+for number in range(200):
+    seed("ReplyFuzzer", f"random-{number}", random.Random(number).randbytes(200))

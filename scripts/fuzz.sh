@@ -17,14 +17,15 @@ export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 
 fuzz() {
-  local name=$1 log=build/fuzz/$1.log failures=build/fuzz/failures/$1 regressions=()
+  local name=$1 log=build/fuzz/$1.log failures=build/fuzz/failures/$1 regressions=() dictionary=()
   mkdir -p "$failures"
   local options=(-artifact_prefix="$failures/" -timeout=10 -rss_limit_mb=2048)
   # Qt loses memory on a JSON text that breaks off within an object; its readers can do nothing about it.
   [[ $name = IniFuzzer || $name = ReplyFuzzer ]] || ASAN_OPTIONS+=:detect_leaks=0
+  [ ! -f "fuzz/$name.dict" ] || dictionary=(-dict="fuzz/$name.dict")
   [ ! -d "fuzz/regressions/$name" ] || regressions=("fuzz/regressions/$name"/*)
   { [ ${#regressions[@]} -eq 0 ] || "build/fuzz/fuzz/$name" "${options[@]}" "${regressions[@]}"; } >"$log" 2>&1 &&
-    "build/fuzz/fuzz/$name" "${options[@]}" -max_total_time="$SECONDS_EACH" -max_len=512 -dict="fuzz/$name.dict" \
+    "build/fuzz/fuzz/$name" "${options[@]}" "${dictionary[@]}" -max_total_time="$SECONDS_EACH" -max_len=512 \
       -print_final_stats=1 "build/fuzz/corpus/$name" >>"$log" 2>&1 || {
     tail -n 60 "$log"
     echo "$name failed. The input was saved: $(grep -o 'Test unit written to .*' "$log" | tail -n 1 | cut -d ' ' -f 5)"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMap>
+#include <QDBusMetaType>
 #include <QVariant>
 #include <QVector>
 
@@ -15,15 +15,12 @@ struct DBusValue {
     QVariant basic;
     QVector<DBusValue> members;
 
-    bool isNumber() const { return signature.size() == 1 && numberTypes().contains(signature.at(0)); }
+    bool isNumber() const { return signature.size() == 1 && QByteArray("ybnqiuxtd").contains(signature); }
 
-    static const QMap<char, int>& numberTypes()
+    /// What Qt reads itself, and hands over as a value of its own, does not show its signature.
+    bool isArgument() const
     {
-        static const QMap<char, int> types{
-            {'y', QMetaType::UChar},    {'b', QMetaType::Bool},      {'n', QMetaType::Short},
-            {'q', QMetaType::UShort},   {'i', QMetaType::Int},       {'u', QMetaType::UInt},
-            {'x', QMetaType::LongLong}, {'t', QMetaType::ULongLong}, {'d', QMetaType::Double}};
-        return types;
+        return (signature.startsWith('a') && signature != "as" && signature != "ay") || signature.startsWith('(');
     }
 
     void append(DBusMessageIter& message) const
@@ -32,7 +29,7 @@ struct DBusValue {
         if (isNumber()) {
             // The low bytes are what a smaller type takes; a double is what it is.
             const double real = basic.toDouble();
-            const qulonglong bits = type == 't' ? basic.toULongLong() : static_cast<qulonglong>(basic.toLongLong());
+            const qulonglong bits = basic.toULongLong();
             dbus_message_iter_append_basic(&message, type, type == 'd' ? static_cast<const void*>(&real) : &bits);
         } else if (type == 'h') {
             const int file = open("/dev/null", O_RDONLY | O_CLOEXEC);
@@ -63,11 +60,8 @@ private:
             : type == 'v'                      ? members.at(0).signature
                                                : QByteArray();
         DBusMessageIter inner;
-        dbus_message_iter_open_container(&message,
-                                         type == '('       ? DBUS_TYPE_STRUCT
-                                             : type == '{' ? DBUS_TYPE_DICT_ENTRY
-                                                           : type,
-                                         content.isNull() ? nullptr : content.constData(), &inner);
+        const int container = type == '(' ? DBUS_TYPE_STRUCT : type == '{' ? DBUS_TYPE_DICT_ENTRY : type;
+        dbus_message_iter_open_container(&message, container, content.isNull() ? nullptr : content.constData(), &inner);
         const QByteArray bytes = basic.toByteArray();
         const char* const begin = bytes.constData();
         if (signature == "ay")
@@ -83,7 +77,8 @@ template <typename Source>
 struct DBusValueMaker {
     Source& source;
 
-    bool isOneIn(int count) { return source.below(count) == 0; }
+    // The last one: a source that gives 0 when it is exhausted makes short values.
+    bool isOneIn(int count) { return source.below(count) == count - 1; }
 
     template <typename List>
     auto oneOf(const List& list)
@@ -126,7 +121,7 @@ struct DBusValueMaker {
         const char type = signature.at(0);
         if (value.isNumber()) {
             value.basic = type == 'd' ? QVariant(static_cast<double>(source.bits()) / 3) : QVariant(source.bits());
-            value.basic.convert(DBusValue::numberTypes()[type]);
+            value.basic.convert(QDBusMetaType::signatureToType(signature));
         } else if (signature == "ay") {
             value.basic = QByteArray(source.below(9), isOneIn(2) ? 'x' : '\xff');
         } else if (signature.size() == 1 && type != 'v') {
@@ -143,6 +138,27 @@ struct DBusValueMaker {
             }
         }
         return value;
+    }
+
+    /// The variant that a service answers with: a reply record with a value of any type, or anything else. Every other
+    /// one is near to a right one.
+    DBusValue answer()
+    {
+        static const QByteArrayList values =
+            QByteArray("s h a((ii)s) a((ii)s) as ay v a((ii)i) a((ii)) a((ii)ss) a((xx)s) ((ii)s) aa((ii)s) a(iis) "
+                       "a{s(ii)}")
+                .split(' ');
+        static const QByteArrayList records =
+            QByteArray("(bis) (bisvv) (iisv) (bssv) (bisa{sv}) a(bisv) ((bisv)) (biv) (bisv(bisv)) s as ay v")
+                .split(' ');
+        const bool isRecord = source.below(3) < 2;
+        const QByteArray content = isOneIn(2) ? oneOf(isRecord ? values : records) : signature(3);
+        return isRecord ? record(value(content), isOneIn(10)) : DBusValue{"v", {}, {value(content)}};
+    }
+
+    DBusValue record(const DBusValue& content, bool isError)
+    {
+        return {"v", {}, {{"(bisv)", {}, {{"b", isError, {}}, value("i"), value("s"), {"v", {}, {content}}}}}};
     }
 
 private:

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "tests/support/DBusValue.h"
+#include "tests/support/Getters.h"
+
+/// What a getter gives, and the records that it leaves.
+struct Expectation {
+    QString result;
+    QStringList records;
+
+    static Expectation failure(const Getter& getter, const QString& callError, const QString& recordError)
+    {
+        return {getter.givesSizes() ? "" : QString(), getter.recordsOfFailure(callError, recordError)};
+    }
+
+    /// When the service answers with this variant.
+    static Expectation of(const Getter& getter, const DBusValue& variant)
+    {
+        const DBusValue& record = variant.members.at(0);
+        const QString error = errorOf(record);
+        if (!error.isNull())
+            return failure(getter, {}, error);
+        const DBusValue& value = record.members.at(3).members.at(0);
+        const QString result = getter.givesSizes() ? sizesOf(value) : textOf(value);
+        return result.isNull() ? failure(getter, {}, {}) : Expectation{result, {}};
+    }
+
+    /// The error that a record is read as; null if it holds a value.
+    static QString errorOf(const DBusValue& record)
+    {
+        if (record.signature != "(bisv)")
+            return "Unexpected D-Bus reply record: found signature \"" + (record.isArgument() ? record.signature : "")
+                + "\", expected \"(bisv)\"";
+        return record.members.at(0).basic.toBool() ? record.members.at(2).basic.toString() : QString();
+    }
+
+private:
+    // Null for what Qt converts to no string: a byte among the numbers, and all but text and byte arrays of the rest.
+    static QString textOf(const DBusValue& value)
+    {
+        const bool isText =
+            (value.isNumber() && value.signature != "y") || value.signature == "s" || value.signature == "ay";
+        return isText ? value.basic.toString() + "" : QString(); // an empty text is not null
+    }
+
+    static QString sizesOf(const DBusValue& value)
+    {
+        if (value.signature != "a((ii)s)")
+            return QString();
+        QString text = "";
+        for (const DBusValue& entry : value.members) {
+            const DBusValue& size = entry.members.at(0);
+            text += size.members.at(0).basic.toString() + 'x' + size.members.at(1).basic.toString() + ' '
+                + entry.members.at(1).basic.toString() + ';';
+        }
+        return text;
+    }
+};
