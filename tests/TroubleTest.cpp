@@ -83,7 +83,7 @@ private Q_SLOTS:
     }
 
     // Ends a test that waits for a FIFO or reads a device.
-    void init() { alarm(30); }
+    void init() { alarm(60); }
 
     void troubleWithFilesEmptiesWhatTheyHeldAndIsSaidOnce_data() { addRows(troubles); }
 
