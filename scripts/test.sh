@@ -7,7 +7,7 @@ preset=${1:-dev}
 if [ "$preset" = --valgrind ]; then
   ./scripts/install-dependencies.sh --valgrind
   ./scripts/build.sh valgrind
-  for test in HandlerTest ReaderCallTest TroubleTest ServiceTest HostileTest; do
+  for test in HandlerTest TroubleTest ServiceTest HostileTest; do
     echo "== $test"
     QT_QPA_PLATFORM=minimal QT_FONT_DPI=96 QTEST_FUNCTION_TIMEOUT=3600000 valgrind --quiet --error-exitcode=99 --suppressions=tests/support/valgrind.supp \
       --leak-check=full --show-leak-kinds=definite --errors-for-leak-kinds=definite "build/valgrind/tests/$test"

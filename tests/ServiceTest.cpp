@@ -1,19 +1,17 @@
-// The connectors against the service: tarnis-module, and this program once more in its place.
+// The connectors against tarnis-module, and handlers in a process that has no screen.
 
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
 #include "tests/support/Getters.h"
 #include "tests/support/LogRecorder.h"
 #include "tests/support/Rows.h"
 #include "tests/support/TestProcess.h"
 
-#include <QDBusMetaType>
-#include <QDBusVirtualObject>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
-#include <iostream>
 #include <optional>
-#include <unistd.h>
 
 namespace
 {
@@ -49,17 +47,6 @@ const Rows departures{
     "5 | tarnis-module: cannot own the bus name Module.Tarnis | --resources /tmp",
 };
 
-struct FakeService : QDBusVirtualObject {
-    QString introspect(const QString& /*path*/) const override { return QString(); }
-
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
-    {
-        DBusReply echo;
-        echo.setValue(message.signature() + ':' + message.arguments().value(0).toString());
-        return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(echo)))));
-    }
-};
-
 // Each element of the named interface in its order, with its attributes.
 QStringList elements(const QByteArray& introspection, const QString& interfaceName)
 {
@@ -81,25 +68,11 @@ QStringList elements(const QByteArray& introspection, const QString& interfaceNa
     return found;
 }
 
-int serve()
-{
-    qDBusRegisterMetaType<DBusReply>();
-    FakeService service;
-    QDBusConnection bus = QDBusConnection::systemBus();
-    bus.registerVirtualObject("/", &service, QDBusConnection::SubPath);
-    bus.registerService("Module.Tarnis");
-    std::cout << "ready" << std::endl;
-    QTimer::singleShot(60000, QCoreApplication::instance(), SLOT(quit()));
-    return QCoreApplication::exec();
-}
-
 } // namespace
 
 class ServiceTest : public QObject
 {
     Q_OBJECT
-
-    static TestProcess serve() { return {QCoreApplication::applicationFilePath(), {"serve"}}; }
 
     // What the getters give, in their order.
     QStringList ask() const
@@ -127,8 +100,6 @@ class ServiceTest : public QObject
 
     PrivateBus bus;
     const Connectors connectors{};
-    const TarnisDeviceUiResourcesDBusConnector& resources = connectors.resources;
-    const TarnisIconProviderDBusConnector& icons = connectors.icons;
     std::optional<QTemporaryDir> directory;
     std::optional<TestProcess> module;
 
@@ -144,8 +115,9 @@ private Q_SLOTS:
                 records += getter.recordsOfFailure("The name Module.Tarnis was not provided by any .service files", {});
             QCOMPARE(ask(), QStringList({{}, {}, {}, {}, ""}));
             QCOMPARE(log.take(), records);
-            const TestProcess service = serve();
-            QCOMPARE(resources.getFontIniFilePath(), ":");
+            startModule();
+            QCOMPARE(connectors.resources.getFontIniFilePath(), directory->filePath("fonts.ini"));
+            module.reset();
         }
     }
 
@@ -170,14 +142,6 @@ private Q_SLOTS:
         QCOMPARE(errors.count(), 1);
     }
 
-    void tableNameGoesToTheServiceUnchanged()
-    {
-        const TestProcess service = serve();
-        for (const QString& name : {QString(), QString("night"), QString::fromUtf8("../ü日")})
-            QCOMPARE(icons.getIconResourcesMappingTable(name), "s:" + name);
-        QCOMPARE(icons.getIconResourcesBasePath(), QString(":"));
-    }
-
     void moduleAnswersWithItsDirectoryAsItIsAtTheTimeUntilSigterm()
     {
         startModule();
@@ -186,14 +150,15 @@ private Q_SLOTS:
                              directory->filePath("icons"), "{\"a\": {}}\n",
                              size.arg("800x480") + size.arg("800x600") + size.arg("1024x600")};
         QCOMPARE(ask(), expected);
-        QCOMPARE(icons.getIconResourcesMappingTable("night"), "{ }\n");
+        QCOMPARE(connectors.icons.getIconResourcesMappingTable("night"), "{ }\n");
         shell("rm dimensions/800x600.ini");
         expected.last().remove(size.arg("800x600"));
         QCOMPARE(ask(), expected);
         LogRecorder log;
-        for (const QString name : {".night", "x/../../../etc/passwd"})
-            QVERIFY(icons.getIconResourcesMappingTable(name).isNull());
-        QCOMPARE(log.take().filter("\\\" is not the name of a mapping table").size(), 2);
+        for (const QString name : {".night", "x/../../../etc/passwd", "../\u00FC\u65E5"}) {
+            QVERIFY(connectors.icons.getIconResourcesMappingTable(name).isNull());
+            QVERIFY(log.take().join("").contains('"' + name + "\\\" is not the name of a mapping table"));
+        }
         module->process().terminate();
         QVERIFY(module->process().waitForFinished(10000));
         QVERIFY(module->process().exitStatus() == QProcess::NormalExit && module->process().exitCode() == 0);
@@ -229,6 +194,19 @@ private Q_SLOTS:
         }
     }
 
+    void handlersWithoutAScreenSayIt()
+    {
+        directory.emplace();
+        const QString path = writeFile(directory->filePath("x.ini"), "[G]\nk=16");
+        LogRecorder log;
+        QCOMPARE(TarnisFontHandler(path).getFontPointSize("G", "k"), 12.0);
+        QVERIFY(TarnisElementDimensionHandler({{{1, 1}, path}}).uiElementDimensions().isEmpty());
+        QCOMPARE(
+            log.take().join('\n'),
+            "TarnisFontHandler::TarnisFontHandler: Cannot read pointer to primary screen!\n"
+            "critical TarnisElementDimensionHandler::TarnisElementDimensionHandler: Unable to get primary screen!");
+    }
+
     void moduleSaysWhyItLeaves_data() { addRows(departures); }
 
     void moduleSaysWhyItLeaves()
@@ -242,13 +220,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    const QCoreApplication application(argc, argv);
-    if (argc == 2 && qstrcmp(argv[1], "serve") == 0)
-        return serve();
-    ServiceTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(ServiceTest)
 #include "ServiceTest.moc"

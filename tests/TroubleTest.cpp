@@ -117,11 +117,9 @@ private Q_SLOTS:
         log.take();
         QCOMPARE(load(), answers);
         QStringList expected{QString(textRecord.isEmpty() ? iniRecord : textRecord).replace('$', path + "/en.json"),
-                             QString(iniRecord).replace('$', ini), QString(iniRecord).replace('$', ini),
-                             answers.startsWith(',') ? "No color for key \"k\" in group \"G\" !" : "",
-                             answers.endsWith(',') ? "Icon file \"" + path + "/i.svg\" does not exist" : ""};
+                             QString(iniRecord).replace('$', ini), QString(iniRecord).replace('$', ini)};
         expected.removeAll("");
-        QCOMPARE(log.take().replaceInStrings(QRegularExpression("^.*?: "), ""), expected);
+        QCOMPARE(log.take().filter("platform.").replaceInStrings(QRegularExpression("^.*?: "), ""), expected);
         shell("gone; files");
         QCOMPARE(load(), before);
     }
@@ -174,10 +172,14 @@ private Q_SLOTS:
                                   static_cast<long double>(size.height()) - corner.y());
             };
             dimensions->onScreenGeometryChanged({QPoint(1, 1), corner});
-            const QSize picked = sizes[dimensions->uiElementDimensions().value("G/n").toInt()].first;
-            // No more than what doubles are off at the greatest distance.
-            for (const auto& [size, path] : sizes)
-                QVERIFY2(distance(picked) <= distance(size) + 1e-5L, place);
+            const auto& picked = sizes[dimensions->uiElementDimensions().value("G/n").toInt()];
+            bool isNearest = dimensions->nearestNeighbourScreenSize({corner.x(), corner.y()}) == picked;
+            // No more than what doubles are off at the greatest distance; of equal sizes the first.
+            for (const auto& other : sizes) {
+                isNearest &= distance(picked.first) <= distance(other.first) + 1e-5L;
+                isNearest &= picked.first != other.first || picked.second <= other.second;
+            }
+            QVERIFY2(isNearest, place);
             if (below(16) != 0)
                 continue;
             texts[below(4)].emplace(manager);
