@@ -40,5 +40,7 @@ timeout 300 chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root 
   grep -q "\"text://Button/Ok\": \"OK\"" /root/dump.json
   user=$(stat -c %U /proc/"$(pgrep -x tarnis-module)")
   [ "$user" = tarnis ] || { echo "the service runs as $user" >&2; exit 1; }
-  /root/use-installed.sh /root/examples /root/work /usr/share/tarnis'
+  /root/use-installed.sh /root/examples /root/work /usr/share/tarnis
+  dpkg --purge tarnis-tools tarnis-module libtarnislibrary-dev libtarnislibrary1 >/root/purge.log ||
+    { cat /root/purge.log >&2; exit 1; }'
 echo "Packages installed and of use in a clean Debian 12 after $SECONDS s."
