@@ -1,5 +1,7 @@
 #include "ResourceCheck/KnownNames.h"
 
+#include <QtAlgorithms>
+
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
@@ -53,42 +55,37 @@ int maximumDistance(const QString& name)
     return longest / 3;
 }
 
-QString nearestOf(const QStringList& candidates, const QString& name)
-{
-    QString nearest;
-    int limit = maximumDistance(name);
-    for (const QString& candidate : candidates) {
-        const int difference = distance(name, candidate, limit);
-        if (difference <= limit) {
-            nearest = candidate;
-            limit = difference - 1;
-        }
-        if (limit < 1)
-            break;
-    }
-    return nearest;
-}
-
 } // namespace
 
 KnownNames::KnownNames(const QStringList& names)
     : names(names)
+    , wholeNames(candidatesOf(names))
     , nameSet(names.begin(), names.end())
 {
+    QStringList groupNames;
     for (const QString& name : names) {
         const int position = separatorIn(name);
-        groups.append(name.left(position));
-        keys.append(name.mid(position + 1));
-        namesByKey[keys.last()].append(name);
+        groupNames.append(name.left(position));
+        namesByKey[name.mid(position + 1)].append(name);
     }
-    groups.removeDuplicates();
-    keys.removeDuplicates();
+    groups = candidatesOf(groupNames);
+    QStringList keyNames = namesByKey.keys();
+    keyNames.sort();
+    keys = candidatesOf(keyNames);
 }
 
 bool KnownNames::contains(const QmlPattern& pattern) const
 {
     if (pattern.isLiteral())
         return nameSet.contains(pattern.pieces.first());
+    const QString text = pattern.text();
+    if (!answers.contains(text))
+        answers.insert(text, isThere(pattern));
+    return answers.value(text);
+}
+
+bool KnownNames::isThere(const QmlPattern& pattern) const
+{
     const auto matches = [&pattern](const QString& name) { return pattern.matches(name); };
     const QString& end = pattern.pieces.last();
     if (!end.contains(separator))
@@ -97,11 +94,53 @@ bool KnownNames::contains(const QmlPattern& pattern) const
     return std::any_of(candidates.begin(), candidates.end(), matches);
 }
 
+quint64 KnownNames::lettersOf(const QString& name)
+{
+    quint64 letters = 0;
+    for (const QChar letter : name)
+        letters |= Q_UINT64_C(1) << (letter.unicode() % 64);
+    return letters;
+}
+
+QVector<KnownNames::Candidate> KnownNames::candidatesOf(const QStringList& names)
+{
+    QVector<Candidate> candidates;
+    QSet<QString> seen;
+    for (const QString& name : names) {
+        if (!seen.contains(name))
+            candidates.append({name, lettersOf(name)});
+        seen.insert(name);
+    }
+    return candidates;
+}
+
+QString KnownNames::nearestOf(const QVector<Candidate>& candidates, const QString& name)
+{
+    QString nearest;
+    const quint64 letters = lettersOf(name);
+    int limit = maximumDistance(name);
+    for (const Candidate& candidate : candidates) {
+        // Each letter that only one of both has is a difference, and this is seen at once.
+        const auto missing = qPopulationCount(letters & ~candidate.letters);
+        const auto added = qPopulationCount(candidate.letters & ~letters);
+        if (static_cast<int>(std::max(missing, added)) > limit)
+            continue;
+        const int difference = distance(name, candidate.name, limit);
+        if (difference <= limit) {
+            nearest = candidate.name;
+            limit = difference - 1;
+        }
+        if (limit < 1)
+            break;
+    }
+    return nearest;
+}
+
 QString KnownNames::nearest(const QmlPattern& pattern) const
 {
     const QString text = pattern.text();
     if (pattern.isLiteral())
-        return nearestOf(names, text);
+        return nearestOf(wholeNames, text);
     const QString group = text.left(separatorIn(text));
     const QString key = text.mid(separatorIn(text) + 1);
     const QString anything(QLatin1Char('*'));

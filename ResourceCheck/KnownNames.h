@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QSet>
 #include <QStringList>
+#include <QVector>
 
 /// Names that exist, to be asked for by patterns. Those in question may have the form `Group/Key`.
 class KnownNames
@@ -19,9 +20,21 @@ public:
     QString nearest(const QmlPattern& pattern) const;
 
 private:
+    struct Candidate {
+        QString name;
+        quint64 letters; // a bit for each that occurs
+    };
+
+    static quint64 lettersOf(const QString& name);
+    static QVector<Candidate> candidatesOf(const QStringList& names);
+    static QString nearestOf(const QVector<Candidate>& candidates, const QString& name);
+    bool isThere(const QmlPattern& pattern) const;
+
     QStringList names;
-    QStringList groups;
-    QStringList keys;
+    QVector<Candidate> wholeNames;
+    QVector<Candidate> groups;
+    QVector<Candidate> keys;
     QSet<QString> nameSet;
     QHash<QString, QStringList> namesByKey;
+    mutable QHash<QString, bool> answers; // by the texts of patterns
 };

@@ -121,7 +121,7 @@ void QmlUses::addUse(const QString& meaning, const QVector<QVector<QmlPattern>>&
     const auto kind = kindsByMeaning().constFind(meaning);
     if (kind == kindsByMeaning().constEnd() || arguments.isEmpty())
         return;
-    const QVector<QmlPattern> first = arguments.first();
+    const QVector<QmlPattern>& first = arguments.first();
     const QVector<QmlPattern> second = arguments.value(1, {QmlPattern::anything()});
     const QVector<QmlPattern> noGroup{QmlPattern::anything()};
     if (hasGroup(*kind))

@@ -135,10 +135,9 @@ QVector<Rule> qmlRules()
          QStringLiteral("A file that the QML engine cannot read shows nothing, and here its uses are not seen."),
          checkSyntax},
         {QStringLiteral("qml-unknown-color"), Severity::Error,
-         QStringLiteral("A color that does not exist is an empty text, which QML draws as black or not at all."),
-         checkColors},
+         QStringLiteral("A color that does not exist is an empty text, for which QML takes black."), checkColors},
         {QStringLiteral("qml-unknown-font"), Severity::Error,
-         QStringLiteral("A font that does not exist has no family and the size 0, so Qt takes its own font."),
+         QStringLiteral("A font that does not exist has no family and the size 0, for which Qt takes its own."),
          checkFonts},
         {QStringLiteral("qml-unknown-dimension"), Severity::Error,
          QStringLiteral("A dimension that does not exist is undefined, and what is laid out by it has no size."),
@@ -148,6 +147,7 @@ QVector<Rule> qmlRules()
                         "the default icon is."),
          checkIcons},
         {QStringLiteral("qml-unknown-text"), Severity::Error,
-         QStringLiteral("A text that does not exist is undefined, and its place stays empty or says so."), checkTexts},
+         QStringLiteral("A text that does not exist is undefined, so its place stays empty or shows that word."),
+         checkTexts},
     };
 }

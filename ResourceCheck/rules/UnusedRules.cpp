@@ -108,19 +108,16 @@ QVector<Rule> unusedRules()
 {
     return {
         {QStringLiteral("unused-color"), Severity::Warning,
-         QStringLiteral("A color that nothing shows is read at every start and changed with every design."),
-         checkColors},
+         QStringLiteral("A color that nothing shows is still read at every start."), checkColors},
         {QStringLiteral("unused-font"), Severity::Warning,
-         QStringLiteral("A font size that nothing shows is read at every start and changed with every design."),
-         checkFonts},
+         QStringLiteral("A font size that nothing shows is still read at every start."), checkFonts},
         {QStringLiteral("unused-dimension"), Severity::Warning,
-         QStringLiteral("A dimension that nothing is laid out by is read for every display and kept in memory."),
+         QStringLiteral("A dimension that nothing is laid out by is still read for every display and kept in memory."),
          checkDimensions},
         {QStringLiteral("unused-icon"), Severity::Warning,
-         QStringLiteral("An icon that nothing shows takes room on the device and is looked through at every start."),
+         QStringLiteral("An icon that nothing shows takes room on the device, and its alias is read at every start."),
          checkIcons},
         {QStringLiteral("unused-text"), Severity::Warning,
-         QStringLiteral("A text that nothing shows is translated for nothing and kept in memory in every language."),
-         checkTexts},
+         QStringLiteral("A text that nothing shows is translated for nothing and kept in memory."), checkTexts},
     };
 }
