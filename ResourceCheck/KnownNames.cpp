@@ -1,21 +1,13 @@
 #include "ResourceCheck/KnownNames.h"
 
-#include <QtAlgorithms>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
-#include <vector>
 
 namespace
 {
-
-constexpr QLatin1Char separator('/');
-
-int separatorIn(const QString& name)
-{
-    return name.lastIndexOf(separator);
-}
 
 // How many characters are to be changed, added, left out or swapped with the next; more than the limit if that is not
 // enough.
@@ -23,34 +15,35 @@ int distance(const QString& left, const QString& right, int limit)
 {
     if (std::abs(left.size() - right.size()) > limit)
         return limit + 1;
-    std::vector<int> beforeLast;
-    std::vector<int> last;
-    std::vector<int> row(right.size() + 1);
+    using Row = QVarLengthArray<int, 64>;
+    Row beforeLast(right.size() + 1);
+    Row last(right.size() + 1);
+    Row row(right.size() + 1);
     std::iota(row.begin(), row.end(), 0);
     int lastBest = 0;
     for (int i = 1; i <= left.size(); ++i) {
-        beforeLast.swap(last);
-        last.swap(row);
-        row.assign(last.size(), i);
+        std::copy(last.begin(), last.end(), beforeLast.begin());
+        std::copy(row.begin(), row.end(), last.begin());
+        int best = row[0] = i;
         for (int j = 1; j <= right.size(); ++j) {
             const bool isSame = left.at(i - 1) == right.at(j - 1);
             row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (isSame ? 0 : 1)});
             if (i > 1 && j > 1 && left.at(i - 1) == right.at(j - 2) && left.at(i - 2) == right.at(j - 1))
                 row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+            best = std::min(best, row[j]);
         }
-        const int best = *std::min_element(row.begin(), row.end());
         if (std::min(best, lastBest) > limit)
             return limit + 1;
         lastBest = best;
     }
-    return row.back();
+    return row[right.size()];
 }
 
 // A third of the longest part: in `text://Room/Hall` most is the same as in any other text.
 int maximumDistance(const QString& name)
 {
     int longest = 0;
-    for (const QString& part : name.split(separator))
+    for (const QString& part : name.split(QLatin1Char('/')))
         longest = std::max(longest, part.size());
     return longest / 3;
 }
@@ -59,95 +52,35 @@ int maximumDistance(const QString& name)
 
 KnownNames::KnownNames(const QStringList& names)
     : names(names)
-    , wholeNames(candidatesOf(names))
-    , nameSet(names.begin(), names.end())
+    , candidates(names)
 {
-    QStringList groupNames;
-    for (const QString& name : names) {
-        const int position = separatorIn(name);
-        groupNames.append(name.left(position));
-        namesByKey[name.mid(position + 1)].append(name);
-    }
-    groups = candidatesOf(groupNames);
-    QStringList keyNames = namesByKey.keys();
-    keyNames.sort();
-    keys = candidatesOf(keyNames);
+    for (const QString& name : names)
+        candidates.append(QLatin1Char('*') + name.mid(name.lastIndexOf(QLatin1Char('/'))));
+    for (const QString& name : names)
+        candidates.append(name.left(name.lastIndexOf(QLatin1Char('/')) + 1) + QLatin1Char('*'));
+    candidates.removeDuplicates();
+    candidateSet = QSet<QString>(candidates.begin(), candidates.end());
 }
 
 bool KnownNames::contains(const QmlPattern& pattern) const
 {
-    if (pattern.isLiteral())
-        return nameSet.contains(pattern.pieces.first());
-    const QString text = pattern.text();
-    if (!answers.contains(text))
-        answers.insert(text, isThere(pattern));
-    return answers.value(text);
-}
-
-bool KnownNames::isThere(const QmlPattern& pattern) const
-{
-    const auto matches = [&pattern](const QString& name) { return pattern.matches(name); };
-    const QString& end = pattern.pieces.last();
-    if (!end.contains(separator))
-        return std::any_of(names.begin(), names.end(), matches);
-    const QStringList candidates = namesByKey.value(end.mid(separatorIn(end) + 1));
-    return std::any_of(candidates.begin(), candidates.end(), matches);
-}
-
-quint64 KnownNames::lettersOf(const QString& name)
-{
-    quint64 letters = 0;
-    for (const QChar letter : name)
-        letters |= Q_UINT64_C(1) << (letter.unicode() % 64);
-    return letters;
-}
-
-QVector<KnownNames::Candidate> KnownNames::candidatesOf(const QStringList& names)
-{
-    QVector<Candidate> candidates;
-    QSet<QString> seen;
-    for (const QString& name : names) {
-        if (!seen.contains(name))
-            candidates.append({name, lettersOf(name)});
-        seen.insert(name);
-    }
-    return candidates;
-}
-
-QString KnownNames::nearestOf(const QVector<Candidate>& candidates, const QString& name)
-{
-    QString nearest;
-    const quint64 letters = lettersOf(name);
-    int limit = maximumDistance(name);
-    for (const Candidate& candidate : candidates) {
-        // Each letter that only one of both has is a difference, and this is seen at once.
-        const auto missing = qPopulationCount(letters & ~candidate.letters);
-        const auto added = qPopulationCount(candidate.letters & ~letters);
-        if (static_cast<int>(std::max(missing, added)) > limit)
-            continue;
-        const int difference = distance(name, candidate.name, limit);
-        if (difference <= limit) {
-            nearest = candidate.name;
-            limit = difference - 1;
-        }
-        if (limit < 1)
-            break;
-    }
-    return nearest;
+    return candidateSet.contains(pattern.text())
+        || (!pattern.isLiteral() && std::any_of(names.begin(), names.end(), [&pattern](const QString& name) {
+               return pattern.matches(name);
+           }));
 }
 
 QString KnownNames::nearest(const QmlPattern& pattern) const
 {
     const QString text = pattern.text();
-    if (pattern.isLiteral())
-        return nearestOf(wholeNames, text);
-    const QString group = text.left(separatorIn(text));
-    const QString key = text.mid(separatorIn(text) + 1);
-    const QString anything(QLatin1Char('*'));
-    if (pattern.pieces.size() > 2 || (group != anything && key != anything))
-        return {};
-    const QString nearestPart = group == anything ? nearestOf(keys, key) : nearestOf(groups, group);
-    if (nearestPart.isNull())
-        return {};
-    return group == anything ? anything + separator + nearestPart : nearestPart + separator + anything;
+    QString nearest;
+    int limit = maximumDistance(text);
+    for (int index = 0; index < candidates.size() && limit > 0; ++index) {
+        const int difference = distance(text, candidates.at(index), limit);
+        if (difference <= limit) {
+            nearest = candidates.at(index);
+            limit = difference - 1;
+        }
+    }
+    return nearest;
 }

@@ -2,12 +2,10 @@
 
 #include "ResourceCheck/QmlPattern.h"
 
-#include <QHash>
 #include <QSet>
 #include <QStringList>
-#include <QVector>
 
-/// Names that exist, to be asked for by patterns. Those in question may have the form `Group/Key`.
+/// Names that exist, as a whole or in the form `Group/Key`, to be asked for by patterns.
 class KnownNames
 {
 public:
@@ -15,26 +13,12 @@ public:
 
     bool contains(const QmlPattern& pattern) const;
 
-    /// The name that differs least from the pattern's text, `*` included, the first of several. Null if all differ
-    /// in more than a third of the characters of its longest part.
+    /// The name, or `*/Key` or `Group/*`, that differs least from the pattern's text, the first of several. Null if
+    /// all differ in more than a third of the characters of its longest part.
     QString nearest(const QmlPattern& pattern) const;
 
 private:
-    struct Candidate {
-        QString name;
-        quint64 letters; // a bit for each that occurs
-    };
-
-    static quint64 lettersOf(const QString& name);
-    static QVector<Candidate> candidatesOf(const QStringList& names);
-    static QString nearestOf(const QVector<Candidate>& candidates, const QString& name);
-    bool isThere(const QmlPattern& pattern) const;
-
     QStringList names;
-    QVector<Candidate> wholeNames;
-    QVector<Candidate> groups;
-    QVector<Candidate> keys;
-    QSet<QString> nameSet;
-    QHash<QString, QStringList> namesByKey;
-    mutable QHash<QString, bool> answers; // by the texts of patterns
+    QStringList candidates; // in their order those with `*` follow
+    QSet<QString> candidateSet;
 };
