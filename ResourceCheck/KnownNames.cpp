@@ -1,9 +1,11 @@
 #include "ResourceCheck/KnownNames.h"
 
 #include <QVarLengthArray>
+#include <QtAlgorithms>
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <numeric>
 
 namespace
@@ -39,6 +41,14 @@ int distance(const QString& left, const QString& right, int limit)
     return row[right.size()];
 }
 
+quint64 lettersOf(const QString& name)
+{
+    quint64 letters = 0;
+    for (const QChar letter : name)
+        letters |= Q_UINT64_C(1) << (letter.unicode() % 64);
+    return letters;
+}
+
 // A third of the longest part: in `text://Room/Hall` most is the same as in any other text.
 int maximumDistance(const QString& name)
 {
@@ -59,6 +69,7 @@ KnownNames::KnownNames(const QStringList& names)
     for (const QString& name : names)
         candidates.append(name.left(name.lastIndexOf(QLatin1Char('/')) + 1) + QLatin1Char('*'));
     candidates.removeDuplicates();
+    std::transform(candidates.begin(), candidates.end(), std::back_inserter(letters), lettersOf);
     candidateSet = QSet<QString>(candidates.begin(), candidates.end());
 }
 
@@ -74,8 +85,12 @@ QString KnownNames::nearest(const QmlPattern& pattern) const
 {
     const QString text = pattern.text();
     QString nearest;
+    const quint64 ownLetters = lettersOf(text);
     int limit = maximumDistance(text);
     for (int index = 0; index < candidates.size() && limit > 0; ++index) {
+        // Each letter that only one of both has is a difference, and most of the candidates have many.
+        if (static_cast<int>(qPopulationCount(ownLetters & ~letters.at(index))) > limit)
+            continue;
         const int difference = distance(text, candidates.at(index), limit);
         if (difference <= limit) {
             nearest = candidates.at(index);

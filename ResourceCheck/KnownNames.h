@@ -4,6 +4,7 @@
 
 #include <QSet>
 #include <QStringList>
+#include <QVector>
 
 /// Names that exist, as a whole or in the form `Group/Key`, to be asked for by patterns.
 class KnownNames
@@ -19,6 +20,7 @@ public:
 
 private:
     QStringList names;
-    QStringList candidates; // in their order those with `*` follow
+    QStringList candidates;   // in their order those with `*` follow
+    QVector<quint64> letters; // of the candidates, a bit for each that occurs
     QSet<QString> candidateSet;
 };
