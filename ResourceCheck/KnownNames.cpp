@@ -1,19 +1,15 @@
 #include "ResourceCheck/KnownNames.h"
 
+#include <QVarLengthArray>
+#include <QtAlgorithms>
+
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <numeric>
-#include <vector>
 
 namespace
 {
-
-constexpr QLatin1Char separator('/');
-
-int separatorIn(const QString& name)
-{
-    return name.lastIndexOf(separator);
-}
 
 // How many characters are to be changed, added, left out or swapped with the next; more than the limit if that is not
 // enough.
@@ -21,94 +17,85 @@ int distance(const QString& left, const QString& right, int limit)
 {
     if (std::abs(left.size() - right.size()) > limit)
         return limit + 1;
-    std::vector<int> beforeLast;
-    std::vector<int> last;
-    std::vector<int> row(right.size() + 1);
+    using Row = QVarLengthArray<int, 64>;
+    Row beforeLast(right.size() + 1);
+    Row last(right.size() + 1);
+    Row row(right.size() + 1);
     std::iota(row.begin(), row.end(), 0);
     int lastBest = 0;
     for (int i = 1; i <= left.size(); ++i) {
-        beforeLast.swap(last);
-        last.swap(row);
-        row.assign(last.size(), i);
+        std::copy(last.begin(), last.end(), beforeLast.begin());
+        std::copy(row.begin(), row.end(), last.begin());
+        int best = row[0] = i;
         for (int j = 1; j <= right.size(); ++j) {
             const bool isSame = left.at(i - 1) == right.at(j - 1);
             row[j] = std::min({last[j] + 1, row[j - 1] + 1, last[j - 1] + (isSame ? 0 : 1)});
             if (i > 1 && j > 1 && left.at(i - 1) == right.at(j - 2) && left.at(i - 2) == right.at(j - 1))
                 row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+            best = std::min(best, row[j]);
         }
-        const int best = *std::min_element(row.begin(), row.end());
         if (std::min(best, lastBest) > limit)
             return limit + 1;
         lastBest = best;
     }
-    return row.back();
+    return row[right.size()];
+}
+
+quint64 lettersOf(const QString& name)
+{
+    quint64 letters = 0;
+    for (const QChar letter : name)
+        letters |= Q_UINT64_C(1) << (letter.unicode() % 64);
+    return letters;
 }
 
 // A third of the longest part: in `text://Room/Hall` most is the same as in any other text.
 int maximumDistance(const QString& name)
 {
     int longest = 0;
-    for (const QString& part : name.split(separator))
+    for (const QString& part : name.split(QLatin1Char('/')))
         longest = std::max(longest, part.size());
     return longest / 3;
-}
-
-QString nearestOf(const QStringList& candidates, const QString& name)
-{
-    QString nearest;
-    int limit = maximumDistance(name);
-    for (const QString& candidate : candidates) {
-        const int difference = distance(name, candidate, limit);
-        if (difference <= limit) {
-            nearest = candidate;
-            limit = difference - 1;
-        }
-        if (limit < 1)
-            break;
-    }
-    return nearest;
 }
 
 } // namespace
 
 KnownNames::KnownNames(const QStringList& names)
     : names(names)
-    , nameSet(names.begin(), names.end())
+    , candidates(names)
 {
-    for (const QString& name : names) {
-        const int position = separatorIn(name);
-        groups.append(name.left(position));
-        keys.append(name.mid(position + 1));
-        namesByKey[keys.last()].append(name);
-    }
-    groups.removeDuplicates();
-    keys.removeDuplicates();
+    for (const QString& name : names)
+        candidates.append(QLatin1Char('*') + name.mid(name.lastIndexOf(QLatin1Char('/'))));
+    for (const QString& name : names)
+        candidates.append(name.left(name.lastIndexOf(QLatin1Char('/')) + 1) + QLatin1Char('*'));
+    candidates.removeDuplicates();
+    std::transform(candidates.begin(), candidates.end(), std::back_inserter(letters), lettersOf);
+    candidateSet = QSet<QString>(candidates.begin(), candidates.end());
 }
 
 bool KnownNames::contains(const QmlPattern& pattern) const
 {
-    if (pattern.isLiteral())
-        return nameSet.contains(pattern.pieces.first());
-    const auto matches = [&pattern](const QString& name) { return pattern.matches(name); };
-    const QString& end = pattern.pieces.last();
-    if (!end.contains(separator))
-        return std::any_of(names.begin(), names.end(), matches);
-    const QStringList candidates = namesByKey.value(end.mid(separatorIn(end) + 1));
-    return std::any_of(candidates.begin(), candidates.end(), matches);
+    return candidateSet.contains(pattern.text())
+        || (!pattern.isLiteral() && std::any_of(names.begin(), names.end(), [&pattern](const QString& name) {
+               return pattern.matches(name);
+           }));
 }
 
 QString KnownNames::nearest(const QmlPattern& pattern) const
 {
     const QString text = pattern.text();
-    if (pattern.isLiteral())
-        return nearestOf(names, text);
-    const QString group = text.left(separatorIn(text));
-    const QString key = text.mid(separatorIn(text) + 1);
-    const QString anything(QLatin1Char('*'));
-    if (pattern.pieces.size() > 2 || (group != anything && key != anything))
-        return {};
-    const QString nearestPart = group == anything ? nearestOf(keys, key) : nearestOf(groups, group);
-    if (nearestPart.isNull())
-        return {};
-    return group == anything ? anything + separator + nearestPart : nearestPart + separator + anything;
+    QString nearest;
+    const quint64 ownLetters = lettersOf(text);
+    int limit = maximumDistance(text);
+    for (int index = 0; index < candidates.size() && limit > 0; ++index) {
+        // Each letter that only one of both has is a difference, and most of the candidates have many.
+        if (static_cast<int>(qPopulationCount(ownLetters & ~letters.at(index))) > limit)
+            continue;
+        const int difference = distance(text, candidates.at(index), limit);
+        if (difference <= limit) {
+            nearest = candidates.at(index);
+            limit = difference - 1;
+        }
+    }
+    return nearest;
 }

@@ -2,11 +2,11 @@
 
 #include "ResourceCheck/QmlPattern.h"
 
-#include <QHash>
 #include <QSet>
 #include <QStringList>
+#include <QVector>
 
-/// Names that exist, to be asked for by patterns. Those in question may have the form `Group/Key`.
+/// Names that exist, as a whole or in the form `Group/Key`, to be asked for by patterns.
 class KnownNames
 {
 public:
@@ -14,14 +14,13 @@ public:
 
     bool contains(const QmlPattern& pattern) const;
 
-    /// The name that differs least from the pattern's text, `*` included, the first of several. Null if all differ
-    /// in more than a third of the characters of its longest part.
+    /// The name, or `*/Key` or `Group/*`, that differs least from the pattern's text, the first of several. Null if
+    /// all differ in more than a third of the characters of its longest part.
     QString nearest(const QmlPattern& pattern) const;
 
 private:
     QStringList names;
-    QStringList groups;
-    QStringList keys;
-    QSet<QString> nameSet;
-    QHash<QString, QStringList> namesByKey;
+    QStringList candidates;   // in their order those with `*` follow
+    QVector<quint64> letters; // of the candidates, a bit for each that occurs
+    QSet<QString> candidateSet;
 };

@@ -20,7 +20,7 @@ QmlScope::QmlScope(const QHash<QString, QString>& handlers, const QHash<QString,
 
 QString QmlScope::meaning(const QString& path)
 {
-    const QString whole = meaningOfHandler(path);
+    QString whole = meaningOfHandler(path);
     const int dot = path.lastIndexOf(QLatin1Char('.'));
     if (!whole.isEmpty() || dot < 0)
         return whole;
@@ -28,14 +28,15 @@ QString QmlScope::meaning(const QString& path)
     return owner.isEmpty() ? owner : owner + path.mid(dot);
 }
 
+// Of several names that end the path the longest is the one that is meant.
 QString QmlScope::meaningOfHandler(const QString& path)
 {
-    for (auto handler = handlers.constBegin(); handler != handlers.constEnd(); ++handler) {
-        const bool isEnd = path.endsWith(handler.key());
-        if (isEnd
-            && (path.size() == handler.key().size()
-                || path.at(path.size() - handler.key().size() - 1) == QLatin1Char('.')))
-            return handler.value();
+    for (int dot = -1; dot < path.size();) {
+        const auto handler = handlers.constFind(path.mid(dot + 1));
+        if (handler != handlers.constEnd())
+            return *handler;
+        const int next = path.indexOf(QLatin1Char('.'), dot + 1);
+        dot = next < 0 ? path.size() : next;
     }
     return meaningOfBinding(lastName(path));
 }
@@ -55,7 +56,7 @@ QString QmlScope::meaningOfBinding(const QString& name)
         if (lastName(path) != name) // a name handed on as it is
             meanings.insert(meaning(path));
     }
-    const QString meaning = meanings.size() == 1 ? *meanings.constBegin() : QString();
-    known.insert(name, meaning);
-    return meaning;
+    QString common = meanings.size() == 1 ? *meanings.constBegin() : QString();
+    known.insert(name, common);
+    return common;
 }

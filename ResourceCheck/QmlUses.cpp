@@ -33,24 +33,6 @@ bool hasGroup(ResourceKind kind)
     return kind == ResourceKind::Color || kind == ResourceKind::FontSize;
 }
 
-QStringList filesBelow(const QString& directory)
-{
-    QStringList files;
-    QDirIterator iterator(directory, {QStringLiteral("*.qml"), QStringLiteral("*.js"), QStringLiteral("*.mjs")},
-                          QDir::Files | QDir::System, QDirIterator::Subdirectories);
-    while (iterator.hasNext())
-        files.append(iterator.next());
-    files.sort();
-    return files;
-}
-
-bool parse(QQmlJS::Parser& parser, const QString& path)
-{
-    if (path.endsWith(QLatin1String(".mjs")))
-        return parser.parseModule();
-    return path.endsWith(QLatin1String(".js")) ? parser.parseScript() : parser.parse();
-}
-
 } // namespace
 
 QmlPattern QmlUse::name(const QmlPattern& group, const QmlPattern& key) const
@@ -77,7 +59,12 @@ QmlUses::QmlUses(const QStringList& directories, const QHash<QString, QString>& 
 
 void QmlUses::readDirectory(const QString& directory, const QHash<QString, QString>& handlers)
 {
-    const QStringList files = filesBelow(directory);
+    QStringList files;
+    QDirIterator iterator(directory, {QStringLiteral("*.qml"), QStringLiteral("*.js")}, QDir::Files | QDir::System,
+                          QDirIterator::Subdirectories);
+    while (iterator.hasNext())
+        files.append(iterator.next());
+    files.sort();
     if (files.isEmpty())
         faultList.append({{directory}, QStringLiteral("holds no QML file")});
     for (const QString& file : files)
@@ -94,9 +81,10 @@ void QmlUses::readFile(const QString& path, const QHash<QString, QString>& handl
     }
     QQmlJS::Engine engine;
     QQmlJS::Lexer lexer(&engine);
-    lexer.setCode(code, 1, path.endsWith(QLatin1String(".qml")));
+    const bool isQml = path.endsWith(QLatin1String(".qml"));
+    lexer.setCode(code, 1, isQml);
     QQmlJS::Parser parser(&engine);
-    if (!parse(parser, path)) {
+    if (!(isQml ? parser.parse() : parser.parseScript())) {
         const Place place{path, parser.errorLineNumber(), parser.errorColumnNumber()};
         faultList.append({place, parser.errorMessage()});
         return;
@@ -121,7 +109,7 @@ void QmlUses::addUse(const QString& meaning, const QVector<QVector<QmlPattern>>&
     const auto kind = kindsByMeaning().constFind(meaning);
     if (kind == kindsByMeaning().constEnd() || arguments.isEmpty())
         return;
-    const QVector<QmlPattern> first = arguments.first();
+    const QVector<QmlPattern>& first = arguments.first();
     const QVector<QmlPattern> second = arguments.value(1, {QmlPattern::anything()});
     const QVector<QmlPattern> noGroup{QmlPattern::anything()};
     if (hasGroup(*kind))

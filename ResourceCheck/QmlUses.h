@@ -29,7 +29,7 @@ public:
     /// The classes by the names under which the gallery publishes its handlers.
     static QHash<QString, QString> galleryHandlers();
 
-    /// Reads all *.qml, *.js and *.mjs below the directories. `handlers` are classes by the names under which the host
+    /// Reads all *.qml and *.js below the directories. `handlers` are classes by the names under which the host
     /// publishes them: `Ui.colors` stands for `Ui.colors` and for whatever ends with `.Ui.colors`.
     explicit QmlUses(const QStringList& directories, const QHash<QString, QString>& handlers = galleryHandlers());
 

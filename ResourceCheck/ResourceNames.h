@@ -3,7 +3,7 @@
 #include "ResourceCheck/QmlUses.h"
 #include "ResourceCheck/Resources.h"
 
-#include <QVector>
+#include <QSet>
 
 struct ResourceName {
     QString name; // as a whole: `Group/Key`
@@ -12,9 +12,24 @@ struct ResourceName {
 };
 
 /// The names of one kind that the resources answer to, each once, in the order of the files.
-struct ResourceNames {
+class ResourceNames
+{
+public:
     ResourceNames(const Resources& resources, ResourceKind kind);
 
-    QVector<ResourceName> list;
-    bool isComplete; // no file is missing that might hold more
+    const QVector<ResourceName>& list() const { return nameList; }
+
+    /// No file is missing that might hold more.
+    bool isComplete() const { return complete; }
+
+private:
+    void addPairs(const IniFile& file, ResourceKind kind);
+    void addGroups(const IniFile& file);
+    void addMembers(const JsonFile& file);
+    void addContexts(const IconTable& table);
+    void add(const QString& name, const QString& key, const Place& place);
+
+    QVector<ResourceName> nameList;
+    QSet<QString> seen;
+    bool complete = true;
 };

@@ -8,86 +8,53 @@
 namespace
 {
 
-// Checks one question, part by part: two parts that are right need not fit each other in every case.
-class UseCheck
+QString messageFor(const QmlPattern& name, const KnownNames& names, const QString& what)
 {
-public:
-    UseCheck(const QmlUse& use, const KnownNames& names, const QString& what, const Report& report)
-        : use(use)
-        , names(names)
-        , what(what)
-        , report(report)
-    {
-    }
+    const QString nearest = names.nearest(name);
+    const QString message = QStringLiteral("no %1 \"%2\"").arg(what, name.text());
+    return nearest.isNull() ? message : message + QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+}
 
-    void run() const
-    {
-        const auto isKnown = [this](const QmlPattern& key) { return hasSomeGroup(key); };
-        for (const QmlPattern& key : use.keys) {
-            if (!isKnown(key))
-                reportUnknown(use.groups.first(), key, isGroupWrong(key));
-        }
-        if (std::none_of(use.keys.begin(), use.keys.end(), isKnown))
-            return;
-        for (const QmlPattern& group : use.groups) {
-            if (!hasSomeKey(group))
-                reportUnknown(group, use.keys.first(), true);
-        }
-    }
-
-private:
-    bool exists(const QmlPattern& group, const QmlPattern& key) const
-    {
+// Part by part: two parts that are right need not fit each other in every case.
+void checkUse(const QmlUse& use, const KnownNames& names, const QString& what, const Report& report)
+{
+    const auto exists = [&](const QmlPattern& group, const QmlPattern& key) {
         return (!group.hasText() && !key.hasText()) || names.contains(use.name(group, key));
+    };
+    const auto hasSomeGroup = [&](const QmlPattern& key) {
+        return std::any_of(use.groups.begin(), use.groups.end(), [&](const auto& group) { return exists(group, key); });
+    };
+    const auto hasSomeKey = [&](const QmlPattern& group) {
+        return std::any_of(use.keys.begin(), use.keys.end(), [&](const auto& key) { return exists(group, key); });
+    };
+    const QmlPattern& firstGroup = use.groups.first();
+    bool isSomeKnown = false;
+    for (const QmlPattern& key : use.keys) {
+        if (hasSomeGroup(key)) {
+            isSomeKnown = true;
+            continue;
+        }
+        const bool isGroupWrong = !key.hasText() || !exists(firstGroup, QmlPattern::anything());
+        report(isGroupWrong ? firstGroup.place : key.place, messageFor(use.name(firstGroup, key), names, what));
     }
-
-    bool hasSomeGroup(const QmlPattern& key) const
-    {
-        return std::any_of(use.groups.begin(), use.groups.end(),
-                           [this, &key](const QmlPattern& group) { return exists(group, key); });
+    for (const QmlPattern& group : use.groups) {
+        if (isSomeKnown && !hasSomeKey(group))
+            report(group.place, messageFor(use.name(group, use.keys.first()), names, what));
     }
-
-    bool hasSomeKey(const QmlPattern& group) const
-    {
-        return std::any_of(use.keys.begin(), use.keys.end(),
-                           [this, &group](const QmlPattern& key) { return exists(group, key); });
-    }
-
-    bool isGroupWrong(const QmlPattern& key) const
-    {
-        return !key.hasText() || !exists(use.groups.first(), QmlPattern::anything());
-    }
-
-    void reportUnknown(const QmlPattern& group, const QmlPattern& key, bool isGroupWrong) const
-    {
-        const QmlPattern name = use.name(group, key);
-        const QString nearest = names.nearest(name);
-        QString message = QStringLiteral("no %1 \"%2\"").arg(what, name.text());
-        if (!nearest.isNull())
-            message += QStringLiteral("; did you mean \"%1\"?").arg(nearest);
-        report(isGroupWrong ? group.place : key.place, message);
-    }
-
-    const QmlUse& use;
-    const KnownNames& names;
-    const QString& what;
-    const Report& report;
-};
+}
 
 void checkUses(const Project& project, const Report& report, ResourceKind kind, const QString& what)
 {
-    if (!project.qml)
-        return;
     const ResourceNames resources(project.resources, kind);
-    if (!resources.isComplete)
+    if (!project.qml || !resources.isComplete())
         return;
     QStringList names;
-    for (const ResourceName& resource : resources.list)
+    for (const ResourceName& resource : resources.list())
         names.append(resource.name);
     const KnownNames known(names);
     for (const QmlUse& use : project.qml->uses()) {
         if (use.kind == kind)
-            UseCheck(use, known, what, report).run();
+            checkUse(use, known, what, report);
     }
 }
 
@@ -135,19 +102,19 @@ QVector<Rule> qmlRules()
          QStringLiteral("A file that the QML engine cannot read shows nothing, and here its uses are not seen."),
          checkSyntax},
         {QStringLiteral("qml-unknown-color"), Severity::Error,
-         QStringLiteral("A colour that does not exist is an empty text, which QML draws as black or not at all."),
-         checkColors},
+         QStringLiteral("A colour that does not exist is an empty text, for which QML takes black."), checkColors},
         {QStringLiteral("qml-unknown-font"), Severity::Error,
-         QStringLiteral("A font that does not exist has no family and the size 0, so Qt takes its own font."),
+         QStringLiteral("A font that does not exist has no family and the size 0, for which Qt takes its own."),
          checkFonts},
         {QStringLiteral("qml-unknown-dimension"), Severity::Error,
          QStringLiteral("A dimension that does not exist is undefined, and what is laid out by it has no size."),
          checkDimensions},
         {QStringLiteral("qml-unknown-icon"), Severity::Error,
-         QStringLiteral("An icon that does not exist has no path and is not shown; for a context that does not exist "
-                        "the default icon is."),
+         QStringLiteral("An icon that does not exist is not shown; for a context that does not exist the default one "
+                        "is."),
          checkIcons},
         {QStringLiteral("qml-unknown-text"), Severity::Error,
-         QStringLiteral("A text that does not exist is undefined, and its place stays empty or says so."), checkTexts},
+         QStringLiteral("A text that does not exist is undefined, so its place stays empty or shows that word."),
+         checkTexts},
     };
 }

@@ -11,46 +11,26 @@
 namespace
 {
 
-// What the QML names of one kind, in one way or another.
-class UsedNames
+using Patterns = QHash<QString, QmlPattern>; // by their texts, so that each is there once
+
+// What the QML asks for beyond its literals.
+Patterns patternsOf(const QmlUses& qml, ResourceKind kind)
 {
-public:
-    UsedNames(const QmlUses& qml, ResourceKind kind)
-        : literals(qml.literals())
-    {
-        for (const QmlUse& use : qml.uses()) {
-            if (use.kind != kind)
+    Patterns patterns;
+    for (const QmlUse& use : qml.uses()) {
+        if (use.kind != kind)
+            continue;
+        for (const QmlPattern& key : use.keys) {
+            if (key.isLiteral() && qml.literals().contains(key.text()))
                 continue;
-            for (const QmlPattern& key : use.keys) {
-                // The most are of this kind and need no pattern.
-                if (!key.isLiteral() || !literals.contains(key.text()))
-                    addPatterns(use, key);
+            for (const QmlPattern& group : use.groups) {
+                if (group.hasText() || key.hasText())
+                    patterns.insert(use.name(group, key).text(), use.name(group, key));
             }
         }
     }
-
-    bool contain(const ResourceName& resource) const
-    {
-        return literals.contains(resource.key) || literals.contains(resource.name)
-            || std::any_of(patterns.begin(), patterns.end(),
-                           [&resource](const QmlPattern& pattern) { return pattern.matches(resource.name); });
-    }
-
-private:
-    void addPatterns(const QmlUse& use, const QmlPattern& key)
-    {
-        for (const QmlPattern& group : use.groups) {
-            const QmlPattern name = use.name(group, key);
-            if (name.isLiteral())
-                literals.insert(name.text());
-            else if (group.hasText() || key.hasText())
-                patterns.insert(name.text(), name);
-        }
-    }
-
-    QSet<QString> literals;
-    QHash<QString, QmlPattern> patterns; // by their texts, so that each is there once
-};
+    return patterns;
+}
 
 QRegularExpression wildcard(const QString& pattern)
 {
@@ -67,12 +47,17 @@ void checkUnused(const Project& project, const Report& report, ResourceKind kind
     QVector<QRegularExpression> kept;
     for (const QString& pattern : project.kept)
         kept.append(wildcard(pattern));
-    const UsedNames used(*project.qml, kind);
-    for (const ResourceName& resource : ResourceNames(project.resources, kind).list) {
-        const auto matches = [&resource](const QRegularExpression& pattern) {
-            return pattern.match(resource.name).hasMatch();
-        };
-        if (!used.contain(resource) && std::none_of(kept.begin(), kept.end(), matches))
+    const QSet<QString>& literals = project.qml->literals();
+    const Patterns patterns = patternsOf(*project.qml, kind);
+    const auto isUsed = [&](const ResourceName& resource) {
+        const QString& name = resource.name;
+        return literals.contains(resource.key) || literals.contains(name)
+            || std::any_of(patterns.begin(), patterns.end(), [&](const auto& pattern) { return pattern.matches(name); })
+            || std::any_of(kept.begin(), kept.end(), [&](const auto& one) { return one.match(name).hasMatch(); });
+    };
+    const ResourceNames resources(project.resources, kind);
+    for (const ResourceName& resource : resources.list()) {
+        if (!isUsed(resource))
             report(resource.place, QStringLiteral("the %1 \"%2\" is not used").arg(what, resource.name));
     }
 }
@@ -108,19 +93,16 @@ QVector<Rule> unusedRules()
 {
     return {
         {QStringLiteral("unused-color"), Severity::Warning,
-         QStringLiteral("A colour that nothing shows is read at every start and changed with every design."),
-         checkColors},
+         QStringLiteral("A colour that nothing shows is still read at every start."), checkColors},
         {QStringLiteral("unused-font"), Severity::Warning,
-         QStringLiteral("A font size that nothing shows is read at every start and changed with every design."),
-         checkFonts},
+         QStringLiteral("A font size that nothing shows is still read at every start."), checkFonts},
         {QStringLiteral("unused-dimension"), Severity::Warning,
-         QStringLiteral("A dimension that nothing is laid out by is read for every display and kept in memory."),
+         QStringLiteral("A dimension that nothing is laid out by is still read for every display and kept in memory."),
          checkDimensions},
         {QStringLiteral("unused-icon"), Severity::Warning,
-         QStringLiteral("An icon that nothing shows takes room on the device and is looked through at every start."),
+         QStringLiteral("An icon that nothing shows takes room on the device, and its alias is read at every start."),
          checkIcons},
         {QStringLiteral("unused-text"), Severity::Warning,
-         QStringLiteral("A text that nothing shows is translated for nothing and kept in memory in every language."),
-         checkTexts},
+         QStringLiteral("A text that nothing shows is translated for nothing and kept in memory."), checkTexts},
     };
 }
