@@ -54,6 +54,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= 
 qml-module-qtquick2, qml-module-qtquick-controls2, qml-module-qtquick-layouts, qml-module-qtquick-window2")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS "tarnis-module, fonts-inter, fonts-dejavu-core, fonts-ipaexfont-gothic")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "look of a device, for its QML front end: tools
-A gallery of all that a device's front end is given by its resources.")
+A gallery of all that a device's front end is given by its resources, and a
+checker that finds the faults of resources and of the QML that uses them.")
 
 include(CPack)

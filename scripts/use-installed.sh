@@ -39,4 +39,18 @@ trap 'kill "$host" 2>/dev/null || true' EXIT
 read -r -t 20 line <&"$output" || fail "the host says nothing"
 expect 'qml: #1f2a37 Inter 15 48 OK' "$line"
 
+mkdir -p "$work/product"
+cat >"$work/product/CMakeLists.txt" <<END
+cmake_minimum_required(VERSION 3.25)
+project(product LANGUAGES CXX)
+find_package(TarnisLibrary 1.0 CONFIG REQUIRED)
+enable_testing()
+tarnis_check_resources(DIR $resources QML $(realpath "$examples/host") ARGUMENTS --rule unused-icon=error)
+END
+cmake -S "$work/product" -B "$work/product/build" >"$work/product.log"
+if cmake --build "$work/product/build" >"$work/product.log" 2>&1; then
+  fail "the check of resources finds nothing"
+fi
+grep -q 'mapping.json.*error: the icon "settings" is not used' "$work/product.log" || { cat "$work/product.log"; exit 1; }
+
 "$scripts/check-qml-types.sh" "$imports" "$examples/host/main.qml"
