@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing:
-# install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs] [--package]
+# install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs] [--package] [--cross]
 # --lint adds what CI needs besides: the second compiler, its fuzzers, the formatter and the linter.
 # --docs adds what makes the reference of the headers.
 # --package adds what makes and checks the packages, and the QML checker that reads the installed types.
+# --cross adds the compiler and the emulator for 64-bit ARM.
 # --valgrind adds valgrind; --benchmark adds the benchmarks' library, what they compare with, and what counts and draws.
 set -euo pipefail
 
@@ -17,8 +18,9 @@ packages=(
 for option in "$@"; do
   case $option in
     --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy qtbase5-private-dev) ;;
-    --package) packages+=(dpkg-dev file lintian mmdebstrap qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
+    --package) packages+=(dpkg-dev file lintian mmdebstrap pahole qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
     --docs) packages+=(doxygen) ;;
+    --cross) packages+=(g++-aarch64-linux-gnu qemu-user mmdebstrap) ;;
     --valgrind) packages+=(valgrind libc6-dbg) ;;
     --benchmark) packages+=(
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev
