@@ -22,7 +22,7 @@ if [ ! -d "$sysroot" ]; then
   mv "$sysroot.new" "$sysroot"
 fi
 
-./scripts/build.sh aarch64 TarnisLibrary HostPlatform tarnis-module HandlerTest ReaderCallTest ServiceTest
+./scripts/build.sh aarch64 TarnisLibrary HostPlatform tarnis-module HandlerTest ServiceTest
 ctest --preset aarch64
 library=build/aarch64/TarnisLibrary/libTarnisLibrary.so
 aarch64-linux-gnu-strip -o build/aarch64/stripped.so "$library"
