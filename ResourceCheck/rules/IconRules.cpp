@@ -88,7 +88,7 @@ void checkDefault(const IconTable& table, const Report& report)
 void checkMissingContexts(const IconTable& table, const Report& report)
 {
     const QVector<JsonValue> aliases = aliasesOf(table);
-    QHash<QString, int> counts;
+    QMap<QString, int> counts;
     for (const JsonValue& alias : aliases) {
         for (const QString& context : contextsOf(alias))
             ++counts[context];

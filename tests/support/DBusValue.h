@@ -76,6 +76,7 @@ private:
 template <typename Source>
 struct DBusValueMaker {
     Source& source;
+    int room = 0; // for the values of one answer, whatever the source says; a variant takes that of 50
 
     // The last one: a source that gives 0 when it is exhausted makes short values.
     bool isOneIn(int count) { return source.below(count) == count - 1; }
@@ -119,6 +120,7 @@ struct DBusValueMaker {
     {
         DBusValue value{signature, {}, {}};
         const char type = signature.at(0);
+        room -= type == 'v' ? 50 : 1;
         if (value.isNumber()) {
             value.basic = type == 'd' ? QVariant(static_cast<double>(source.bits()) / 3) : QVariant(source.bits());
             value.basic.convert(QDBusMetaType::signatureToType(signature));
@@ -127,9 +129,9 @@ struct DBusValueMaker {
         } else if (signature.size() == 1 && type != 'v') {
             value.basic = type == 's' ? text() : type == 'g' ? QString(this->signature(2)) : "/object/path";
         } else if (type == 'v') {
-            value.members.append(this->value(this->signature(2)));
+            value.members.append(this->value(this->signature(room > 0 ? 2 : 0)));
         } else if (type == 'a') {
-            for (int count = isOneIn(200) ? 300 : source.below(4); count > 0; --count)
+            for (int count = isOneIn(200) ? 300 : source.below(4); count > 0 && room > 0; --count)
                 value.members.append(this->value(firstType(signature.mid(1))));
         } else { // a structure, or the entry of a dictionary
             for (QByteArray rest = signature.mid(1).chopped(1); !rest.isEmpty();) {
@@ -151,6 +153,7 @@ struct DBusValueMaker {
         static const QByteArrayList records =
             QByteArray("(bis) (bisvv) (iisv) (bssv) (bisa{sv}) a(bisv) ((bisv)) (biv) (bisv(bisv)) s as ay v")
                 .split(' ');
+        room = 1000;
         const bool isRecord = source.below(3) < 2;
         const QByteArray content = isOneIn(2) ? oneOf(isRecord ? values : records) : signature(3);
         return isRecord ? record(value(content), isOneIn(10)) : DBusValue{"v", {}, {value(content)}};
