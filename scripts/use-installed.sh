@@ -47,7 +47,7 @@ find_package(TarnisLibrary 1.0 CONFIG REQUIRED)
 enable_testing()
 tarnis_check_resources(DIR $resources QML $(realpath "$examples/host") ARGUMENTS --rule unused-icon=error)
 END
-cmake -S "$work/product" -B "$work/product/build" >"$work/product.log"
+cmake -S "$work/product" -B "$work/product/build" -G Ninja >"$work/product.log"
 if cmake --build "$work/product/build" >"$work/product.log" 2>&1; then
   fail "the check of resources finds nothing"
 fi
