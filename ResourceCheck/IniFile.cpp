@@ -41,11 +41,6 @@ Place IniFile::place(int line) const
     return {filePath, line, firstTextIn(lines.value(line - 1), 0) + 1};
 }
 
-Place IniFile::keyPlace(const IniEntry& entry) const
-{
-    return place(entry.line);
-}
-
 Place IniFile::valuePlace(const IniEntry& entry) const
 {
     const QString line = lines.value(entry.line - 1);

@@ -24,7 +24,6 @@ public:
 
     /// The first text of the line.
     Place place(int line) const;
-    Place keyPlace(const IniEntry& entry) const;
     Place valuePlace(const IniEntry& entry) const;
 
     /// What stands behind the "=", quotes included, without the blanks around it.

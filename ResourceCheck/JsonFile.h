@@ -33,6 +33,9 @@ public:
     const QString& fault() const { return jsonFault; }
     const Place& faultPlace() const { return placeOfFault; }
 
+    /// Whether the file could be read and is one JSON object. What is not brings no further findings.
+    bool isSound() const { return readProblem.isNull() && jsonFault.isNull(); }
+
     const JsonValue& root() const { return rootValue; }
 
 private:

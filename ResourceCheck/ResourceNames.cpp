@@ -39,7 +39,7 @@ void ResourceNames::addPairs(const IniFile& file, ResourceKind kind)
     for (const IniEntry& entry : file.content().entries()) {
         const QString name = entry.group + QLatin1Char('/') + entry.key;
         if (kind != ResourceKind::FontSize || entry.key != QLatin1String("Family"))
-            add(name, kind == ResourceKind::Dimension ? name : entry.key, file.keyPlace(entry));
+            add(name, kind == ResourceKind::Dimension ? name : entry.key, file.place(entry.line));
     }
 }
 
@@ -52,14 +52,14 @@ void ResourceNames::addGroups(const IniFile& file)
 
 void ResourceNames::addMembers(const JsonFile& file)
 {
-    complete = complete && file.problem().isNull() && file.fault().isNull();
+    complete = complete && file.isSound();
     for (const JsonValue& member : file.root().members)
         add(member.name, member.name, member.namePlace);
 }
 
 void ResourceNames::addContexts(const IconTable& table)
 {
-    complete = complete && table.file.problem().isNull() && table.file.fault().isNull();
+    complete = complete && table.file.isSound();
     for (const IconAlias& alias : table.aliases) {
         for (const IconPath& path : alias.paths)
             add(path.context, path.context, path.place);

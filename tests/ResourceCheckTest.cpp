@@ -22,14 +22,14 @@ namespace
 
 // Arguments, exit status, and a part of what is said.
 const Rows calls{
-    "                                                | 2 | ",
+    "                                                | 2 | DIR is missing",
     "nowhere                                         | 2 | nowhere",
     "--what resources                                | 2 | Unknown option 'what'",
     "--rule icon-sam=off resources                   | 2 | icon-sam",
     "--rule icon-same=maybe resources                | 2 | maybe",
     "--format xml resources                          | 2 | xml",
     "--contrast Day/Text resources                   | 2 | Day/Text",
-    "--explain icon-same                             | 0 | icon-same",
+    "--explain icon-same                             | 0 | icon-same=off",
     "resources                                       | 0 | ",
     "--contrast Day/Divider:Day/Surface resources    | 0 | contrast of Day/Divider on Day/Surface is 1.3",
     "--werror --contrast Day/Divider:Day/Surface resources | 1 | error: contrast",

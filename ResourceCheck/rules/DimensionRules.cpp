@@ -21,7 +21,7 @@ QVector<DimensionFile> readableDisplays(const Resources& resources)
 Place placeOfGroup(const IniFile& file, const QString& group)
 {
     const QStringList keys = file.content().keys(group);
-    return keys.isEmpty() ? Place{file.path()} : file.keyPlace(*file.content().find(group, keys.constFirst()));
+    return keys.isEmpty() ? Place{file.path()} : file.place(file.content().find(group, keys.constFirst())->line);
 }
 
 void checkKeysAreInAll(const Project& project, const Report& report)

@@ -17,7 +17,7 @@ void checkFamilyIsGiven(const Project& project, const Report& report)
     for (const QString& group : file.content().groups()) {
         const QStringList keys = file.content().keys(group);
         if (!keys.isEmpty() && !keys.contains(familyKey)) {
-            report(file.keyPlace(*file.content().find(group, keys.constFirst())),
+            report(file.place(file.content().find(group, keys.constFirst())->line),
                    QStringLiteral("font group \"%1\" has sizes but no Family").arg(group));
         }
     }

@@ -236,7 +236,7 @@ QSet<QString> usedFiles(const Project& project, const QMultiHash<QString, QStrin
 void checkUnused(const Project& project, const Report& report)
 {
     const QVector<IconTable>& tables = project.resources.iconTables;
-    if (!std::all_of(tables.begin(), tables.end(), [](const IconTable& table) { return isSound(table.file); }))
+    if (!std::all_of(tables.begin(), tables.end(), [](const IconTable& table) { return table.file.isSound(); }))
         return;
     const QMultiHash<QString, QString> files = filesBelow(project.resources.iconDirectory);
     const QSet<QString> used = usedFiles(project, files);

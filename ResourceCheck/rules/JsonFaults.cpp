@@ -2,11 +2,6 @@
 
 #include <QHash>
 
-bool isSound(const JsonFile& file)
-{
-    return file.problem().isNull() && file.fault().isNull();
-}
-
 void reportFault(const JsonFile& file, const Report& report)
 {
     if (!file.fault().isNull())

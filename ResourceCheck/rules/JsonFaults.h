@@ -3,9 +3,6 @@
 #include "ResourceCheck/JsonFile.h"
 #include "ResourceCheck/Rule.h"
 
-/// Whether the file could be read and is one JSON object. What is not brings no further findings.
-bool isSound(const JsonFile& file);
-
 /// Reports what keeps the text from being one JSON object, if anything does.
 void reportFault(const JsonFile& file, const Report& report);
 

@@ -21,7 +21,7 @@ void forEachText(const Project& project, const Report& report)
 const TextFile* soundText(const Project& project, const QString& filename)
 {
     for (const TextFile& text : project.resources.texts) {
-        if (QFileInfo(text.file.path()).fileName() == filename && isSound(text.file))
+        if (QFileInfo(text.file.path()).fileName() == filename && text.file.isSound())
             return &text;
     }
     return nullptr;
@@ -67,7 +67,7 @@ void checkMissing(const Project& project, const TextFile& text, const Report& re
     const QString base = text.language.section(QLatin1Char('_'), 0, 0);
     const TextFile* fallback = soundText(project, base + QStringLiteral(".json"));
     const TextFile* english = englishText(project);
-    if (!english || !fallback || !isSound(text.file) || !isLocale(text.language))
+    if (!english || !fallback || !text.file.isSound() || !isLocale(text.language))
         return;
     QSet<QString> offered = urlsOf(text) + urlsOf(*fallback);
     for (const JsonValue& member : english->texts) {
