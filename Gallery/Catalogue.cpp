@@ -1,9 +1,9 @@
 #include "Gallery/Catalogue.h"
 
-#include "Common/ColorTools/Contrast.h"
 #include "Common/IniTools/IniFileManager.h"
 #include "Common/TextTools/LanguageDefinitions.h"
 #include "Gallery/UiResources.h"
+#include "ResourceFormat/Contrast.h"
 
 #include <QColor>
 #include <QDir>
@@ -111,7 +111,7 @@ double Catalogue::contrast(const QString& text, const QString& background) const
 {
     if (!isColor(text) || !isColor(background))
         return 0;
-    return Contrast::ratio(QColor(text), QColor(background));
+    return ResourceFormat::Contrast::ratio(QColor(text), QColor(background));
 }
 
 QString Catalogue::usedFamily(const QString& family) const

@@ -1,6 +1,6 @@
 #include "ResourceCheck/IniFile.h"
 
-#include "Common/FileTools/RegularFile.h"
+#include "ResourceFormat/RegularFile.h"
 
 #include <QTextCodec>
 
@@ -20,7 +20,7 @@ int firstTextIn(const QString& line, int from)
 IniFile::IniFile(const QString& path)
     : filePath(path)
 {
-    const QByteArray content = RegularFile::readAll(path, readProblem);
+    const QByteArray content = ResourceFormat::RegularFile::readAll(path, readProblem);
     QTextCodec& codec = *QTextCodec::codecForName("UTF-8");
     lines = codec.toUnicode(content).split(QLatin1Char('\n'));
     parser = IniParser(content, codec);

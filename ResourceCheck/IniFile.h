@@ -1,9 +1,12 @@
 #pragma once
 
-#include "Common/IniTools/IniParser.h"
 #include "ResourceCheck/Finding.h"
+#include "ResourceFormat/IniParser.h"
 
 #include <QStringList>
+
+using ResourceFormat::IniEntry;
+using ResourceFormat::IniParser;
 
 /// An INI file as the platform's reader understands it, with the places of what it holds.
 class IniFile

@@ -1,6 +1,6 @@
 #include "ResourceCheck/JsonFile.h"
 
-#include "Common/FileTools/RegularFile.h"
+#include "ResourceFormat/RegularFile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -132,7 +132,7 @@ Place placeOf(const QString& path, const QByteArray& before)
 JsonFile::JsonFile(const QString& path)
     : filePath(path)
 {
-    const QByteArray content = RegularFile::readAll(path, readProblem);
+    const QByteArray content = ResourceFormat::RegularFile::readAll(path, readProblem);
     if (!readProblem.isNull())
         return;
     const int nullCharacter = content.indexOf('\0');

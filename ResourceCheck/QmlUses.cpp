@@ -1,9 +1,9 @@
 #include "ResourceCheck/QmlUses.h"
 
-#include "Common/FileTools/RegularFile.h"
 #include "ResourceCheck/QmlCollector.h"
 #include "ResourceCheck/QmlExpression.h"
 #include "ResourceCheck/QmlScope.h"
+#include "ResourceFormat/RegularFile.h"
 
 #include <QDirIterator>
 
@@ -74,7 +74,7 @@ void QmlUses::readDirectory(const QString& directory, const QHash<QString, QStri
 void QmlUses::readFile(const QString& path, const QHash<QString, QString>& handlers)
 {
     QString problem;
-    const QString code = QString::fromUtf8(RegularFile::readAll(path, problem));
+    const QString code = QString::fromUtf8(ResourceFormat::RegularFile::readAll(path, problem));
     if (!problem.isNull()) {
         faultList.append({{path}, QStringLiteral("cannot be read: %1").arg(problem)});
         return;

@@ -1,8 +1,8 @@
 #include "ResourceCheck/Resolve.h"
 
-#include "Common/FileTools/RegularFile.h"
 #include "Common/TextTools/LanguageDefinitions.h"
 #include "ResourceCheck/Resources.h"
+#include "ResourceFormat/RegularFile.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
@@ -81,7 +81,7 @@ bool resolveIcon(const Resources& resources, const QStringList& names)
 {
     QString problem;
     const QString table =
-        QString::fromUtf8(RegularFile::readAll(resources.iconTables.constFirst().file.path(), problem));
+        QString::fromUtf8(ResourceFormat::RegularFile::readAll(resources.iconTables.constFirst().file.path(), problem));
     const TarnisIconHandler handler(resources.iconDirectory, table);
     const TarnisIconHandler::ContextMap contexts = handler.parseMappingTable(table).value(names.at(0));
     const QString requested = names.value(1, TarnisIconHandler::defaultContextPathKey);

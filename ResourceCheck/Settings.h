@@ -6,7 +6,11 @@
 #include <QPair>
 #include <QVector>
 
+namespace ResourceFormat
+{
 struct IniEntry;
+}
+using ResourceFormat::IniEntry;
 
 /// How to check: what both the command line and the file `.tarnis-check.ini` of a resource directory can say.
 ///

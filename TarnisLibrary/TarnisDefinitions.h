@@ -6,7 +6,7 @@
 
 /// The names under which the Tarnis module publishes its objects on the D-Bus.
 ///
-/// Every call of a function returns a reference to the same string, valid until the library is unloaded.
+/// Each function always returns a reference to the same string, valid until the library is unloaded.
 class TARNISLIBRARY_EXPORT TarnisDefinitions
 {
 public:

@@ -1,32 +1,45 @@
 #include "TarnisModule/Answer.h"
 
 #include "Common/DBusTools/DBusReply.h"
-#include "TarnisModule/DeviceUiResources.h"
 
 #include <QDBusMetaType>
 #include <QFileInfo>
 
-QDBusVariant Answer::value(const QVariant& value)
+namespace
+{
+
+QDBusVariant variantOf(const DBusReply& reply)
+{
+    static const int type = qDBusRegisterMetaType<DBusReply>();
+    return QDBusVariant(QVariant(type, &reply));
+}
+
+} // namespace
+
+namespace TarnisModule::Answer
+{
+
+QDBusVariant value(const QVariant& value)
 {
     DBusReply reply;
     reply.setValue(value);
-    return QDBusVariant(QVariant::fromValue(reply));
+    return variantOf(reply);
 }
 
-QDBusVariant Answer::error(const QString& message)
+QDBusVariant error(const QString& message)
 {
     DBusReply reply;
     reply.setError(ErrorContainer::getDefaultErrorCode(), message);
-    return QDBusVariant(QVariant::fromValue(reply));
+    return variantOf(reply);
 }
 
-QDBusVariant Answer::readableFile(const QString& path)
+QDBusVariant readableFile(const QString& path)
 {
     const QString problem = fileProblem(path);
     return problem.isNull() ? value(path) : error(problem);
 }
 
-QString Answer::fileProblem(const QString& path)
+QString fileProblem(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists())
@@ -38,9 +51,4 @@ QString Answer::fileProblem(const QString& path)
     return QString();
 }
 
-void Answer::registerTypes()
-{
-    qDBusRegisterMetaType<DBusReply>();
-    qDBusRegisterMetaType<DisplaySize>();
-    qDBusRegisterMetaType<QList<DisplaySize>>();
-}
+} // namespace TarnisModule::Answer

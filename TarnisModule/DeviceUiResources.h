@@ -1,31 +1,31 @@
 #pragma once
 
+#include "ResourceFormat/Directory.h"
+
 #include <QDBusVariant>
-#include <QList>
 #include <QObject>
-#include <QPair>
-#include <QSize>
 #include <QString>
 
-/// A supported display size in pixels and the path of its dimension INI file.
-using DisplaySize = QPair<QSize, QString>;
+namespace TarnisModule
+{
 
-/// The object `/Tarnis/DeviceUiResources`: says where colours, fonts and dimensions lie, from the resource directory as
-/// it is at the time of the call. What is missing or bad is answered with an error that names the file.
+/// The object `/Tarnis/DeviceUiResources`. It tells where colors, fonts and dimensions are, from the resource directory
+/// as it is at the time of the call. A missing or bad file is answered with an error that names it.
 class DeviceUiResources : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `directory` is absolute.
-    explicit DeviceUiResources(const QString& directory, QObject* parent = nullptr);
+    explicit DeviceUiResources(const ResourceFormat::Directory& resourceDirectory);
 
     QDBusVariant getFontIniFilePath() const;
     QDBusVariant getColorIniFilePath() const;
 
-    /// Every `dimensions/WxH.ini`; an INI file there with another name is an error.
+    /// Every dimension file with its display size; a dimension file with another name is an error.
     QDBusVariant getSupportedScreenSizes() const;
 
 private:
-    QString directory;
+    const ResourceFormat::Directory directory;
 };
+
+} // namespace TarnisModule

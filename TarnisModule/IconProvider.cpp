@@ -1,40 +1,41 @@
 #include "TarnisModule/IconProvider.h"
 
+#include "ResourceFormat/RegularFile.h"
 #include "TarnisModule/Answer.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 
-IconProvider::IconProvider(const QString& directory, QObject* parent)
-    : QObject(parent)
-    , iconDirectory(directory + QStringLiteral("/icons"))
+namespace TarnisModule
+{
+
+IconProvider::IconProvider(const ResourceFormat::Directory& resourceDirectory)
+    : directory(resourceDirectory)
 {
 }
 
 QDBusVariant IconProvider::getIconResourcesBasePath() const
 {
-    if (QFileInfo(iconDirectory).isDir())
-        return Answer::value(iconDirectory);
-    return Answer::error(QStringLiteral("%1 is not a directory").arg(iconDirectory));
+    const QString folder = directory.iconFolder();
+    if (QFileInfo(folder).isDir())
+        return Answer::value(folder);
+    return Answer::error(QStringLiteral("%1 is not a directory").arg(folder));
 }
 
 QDBusVariant IconProvider::getIconResourcesMappingTable(const QString& name) const
 {
     if (name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.')))
-        return Answer::error(QStringLiteral("\"%1\" is not the name of a mapping table").arg(name));
-    const QString filename =
-        name.isEmpty() ? QStringLiteral("mapping.json") : QStringLiteral("mapping.%1.json").arg(name);
-    const QString path = iconDirectory + QLatin1Char('/') + filename;
+        return Answer::error(QStringLiteral("\"%1\" is not a valid mapping table name").arg(name));
+    const QString path = directory.mappingTable(name);
     const QString problem = Answer::fileProblem(path);
     if (!problem.isNull())
         return Answer::error(problem);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return Answer::error(QStringLiteral("%1: %2").arg(path, file.errorString()));
-    const QByteArray table = file.readAll();
+    QString reason;
+    const QByteArray table = ResourceFormat::RegularFile::readAll(path, reason);
+    if (!reason.isNull())
+        return Answer::error(QStringLiteral("%1: %2").arg(path, reason));
     if (table.contains('\0'))
-        return Answer::error(QStringLiteral("%1: a null character, which the bus does not carry").arg(path));
+        return Answer::error(QStringLiteral("%1: a null character, which cannot be sent over the bus").arg(path));
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(table, &error);
     if (error.error != QJsonParseError::NoError)
@@ -43,3 +44,5 @@ QDBusVariant IconProvider::getIconResourcesMappingTable(const QString& name) con
         return Answer::error(QStringLiteral("%1: not a JSON object").arg(path));
     return Answer::value(QString::fromUtf8(table));
 }
+
+} // namespace TarnisModule

@@ -1,25 +1,30 @@
 #pragma once
 
+#include "ResourceFormat/Directory.h"
+
 #include <QDBusVariant>
 #include <QObject>
 #include <QString>
 
-/// The object `/Tarnis/IconProvider`: says where the icons lie and hands out the mapping table, from the resource
-/// directory as it is at the time of the call. What is missing or bad is answered with an error that names the file.
+namespace TarnisModule
+{
+
+/// The object `/Tarnis/IconProvider`. It tells where the icons are and returns the mapping table, from the resource
+/// directory as it is at the time of the call. A missing or bad file is answered with an error that names it.
 class IconProvider : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `directory` is absolute.
-    explicit IconProvider(const QString& directory, QObject* parent = nullptr);
+    explicit IconProvider(const ResourceFormat::Directory& resourceDirectory);
 
     QDBusVariant getIconResourcesBasePath() const;
 
-    /// The empty name is `icons/mapping.json`, any other `icons/mapping.NAME.json`. A name that holds "/" or begins
-    /// with "." is refused.
+    /// The empty name is the default table. A name that contains "/" or begins with "." is an error.
     QDBusVariant getIconResourcesMappingTable(const QString& name) const;
 
 private:
-    QString iconDirectory;
+    const ResourceFormat::Directory directory;
 };
+
+} // namespace TarnisModule

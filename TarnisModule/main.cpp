@@ -1,4 +1,3 @@
-#include "TarnisModule/Answer.h"
 #include "TarnisModule/DeviceUiResources.h"
 #include "TarnisModule/IconProvider.h"
 #include "deviceuiresourcesadaptor.h"
@@ -26,7 +25,7 @@ int fail(ExitStatus status, const QString& message)
     return status;
 }
 
-// Blocked in every thread and read from a descriptor, so that the event loop ends as it does on any other quit.
+// The signals are blocked in every thread and read from a descriptor, so that the event loop ends as on any other quit.
 void quitOnSignals(QCoreApplication& application)
 {
     sigset_t signals;
@@ -38,31 +37,30 @@ void quitOnSignals(QCoreApplication& application)
     QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
 }
 
-int publish(const QString& directory, QDBusConnection bus)
+int publish(const ResourceFormat::Directory& directory, QDBusConnection bus)
 {
     if (!bus.isConnected())
         return fail(NoBus, QStringLiteral("no connection to the D-Bus: ") + bus.lastError().message());
-    Answer::registerTypes();
-    DeviceUiResources deviceUiResources(directory);
-    IconProvider iconProvider(directory);
+    TarnisModule::DeviceUiResources deviceUiResources(directory);
+    TarnisModule::IconProvider iconProvider(directory);
     new DeviceUiResourcesAdaptor(&deviceUiResources);
     new IconProviderAdaptor(&iconProvider);
     bus.registerObject(QStringLiteral("/Tarnis/DeviceUiResources"), &deviceUiResources);
     bus.registerObject(QStringLiteral("/Tarnis/IconProvider"), &iconProvider);
-    // Last: a call that the bus kept back until the name is there must find the objects.
+    // The name comes last: the bus holds back calls until the name is owned, and they must find the objects.
     const QString name = QStringLiteral("Module.Tarnis");
     if (!bus.registerService(name)) {
         const QString reason =
             bus.lastError().isValid() ? bus.lastError().message() : QStringLiteral("another process owns it");
         return fail(NoName, QStringLiteral("cannot own the bus name %1: %2").arg(name, reason));
     }
-    // Without its bus the service is of no use to anyone.
+    // Without the bus nobody can reach the service.
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
                 QStringLiteral("Disconnected"), QCoreApplication::instance(), SLOT(quit()));
-    std::printf("%s publishes %s\n", qPrintable(name), qPrintable(directory));
+    std::printf("%s publishes %s\n", qPrintable(name), qPrintable(directory.path()));
     std::fflush(stdout);
     QCoreApplication::exec();
-    return bus.isConnected() ? Success : fail(NoBus, QStringLiteral("the D-Bus went away"));
+    return bus.isConnected() ? Success : fail(NoBus, QStringLiteral("lost the connection to the D-Bus"));
 }
 
 } // namespace
@@ -77,7 +75,7 @@ int main(int argc, char* argv[])
     parser.setApplicationDescription(
         QStringLiteral("Publishes a resource directory on the D-Bus as Module.Tarnis.\n\n"
                        "Exit status: 0 after SIGTERM or SIGINT, 2 wrong usage, 3 no such directory, 4 no bus, "
-                       "5 the bus name is not to be had."));
+                       "5 the bus name is already taken or not allowed."));
     const QCommandLineOption resources(QStringLiteral("resources"), QStringLiteral("The resource directory."),
                                        QStringLiteral("DIR"));
     const QCommandLineOption session(QStringLiteral("session"),
@@ -99,6 +97,6 @@ int main(int argc, char* argv[])
     const QDir directory(parser.value(resources));
     if (parser.value(resources).isEmpty() || !directory.exists())
         return fail(NoDirectory, QStringLiteral("no such directory: ") + parser.value(resources));
-    return publish(directory.absolutePath(),
+    return publish(ResourceFormat::Directory(directory.absolutePath()),
                    parser.isSet(session) ? QDBusConnection::sessionBus() : QDBusConnection::systemBus());
 }

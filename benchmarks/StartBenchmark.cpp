@@ -1,4 +1,4 @@
-#include "Common/IniTools/IniParser.h"
+#include "ResourceFormat/IniParser.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
@@ -133,7 +133,7 @@ void callAll()
 
 void parseIni(const QString& path)
 {
-    benchmark::DoNotOptimize(IniParser(read(path), *QTextCodec::codecForName("UTF-8")));
+    benchmark::DoNotOptimize(ResourceFormat::IniParser(read(path), *QTextCodec::codecForName("UTF-8")));
 }
 
 void parseJson(const QString& path)

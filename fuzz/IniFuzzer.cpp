@@ -1,5 +1,5 @@
 // IniParser against a naive reading of the same bytes, and against itself on what it read, written out.
-#include "Common/IniTools/IniParser.h"
+#include "ResourceFormat/IniParser.h"
 #include "fuzz/Claims.h"
 
 #include <QMap>
@@ -18,13 +18,13 @@ struct Reading {
 Reading read(const QByteArray& bytes)
 {
     Reading result;
-    const IniParser parser(bytes, *QTextCodec::codecForName("UTF-8"));
+    const ResourceFormat::IniParser parser(bytes, *QTextCodec::codecForName("UTF-8"));
     for (const QString& group : parser.groups()) {
         result.content += group;
         for (const QString& key : parser.keys(group))
             result.content += group + '\n' + key + '\n' + parser.find(group, key)->value;
     }
-    for (const IniParser::Fault& fault : parser.faults())
+    for (const ResourceFormat::IniParser::Fault& fault : parser.faults())
         result.faults += fault.line;
     return result;
 }

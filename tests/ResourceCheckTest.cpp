@@ -96,9 +96,9 @@ QByteArray damaged(QByteArray content, QRandomGenerator& random)
     }
 }
 
-QVector<IniEntry> entriesOf(const QString& path)
+QVector<ResourceFormat::IniEntry> entriesOf(const QString& path)
 {
-    return IniParser(readFile(path), *QTextCodec::codecForName("UTF-8")).entries();
+    return ResourceFormat::IniParser(readFile(path), *QTextCodec::codecForName("UTF-8")).entries();
 }
 
 void lookUpEverything(const QString& directory)

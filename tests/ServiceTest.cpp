@@ -186,7 +186,7 @@ private Q_SLOTS:
         for (const QString object : {"DeviceUiResources", "IconProvider"}) {
             const QDBusReply<QString> offer = QDBusConnection::systemBus().call(QDBusMessage::createMethodCall(
                 "Module.Tarnis", "/Tarnis/" + object, "org.freedesktop.DBus.Introspectable", "Introspect"));
-            QFile contract(RESOURCES "/../TarnisModule/Interface." + object + ".xml");
+            QFile contract(RESOURCES "/../interfaces/Interface." + object + ".xml");
             QVERIFY(contract.open(QIODevice::ReadOnly));
             const QStringList expected = elements(contract.readAll(), "Interface." + object);
             QVERIFY(expected.size() > 2);

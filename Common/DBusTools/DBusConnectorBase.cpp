@@ -6,7 +6,7 @@
 namespace
 {
 
-// Qt takes an empty interface name as "any interface"; a single dot is no legal name to it.
+// Qt takes an empty interface name to mean any interface, but rejects a single dot.
 QByteArray strictInterfaceName(const QString& name)
 {
     return name.isEmpty() ? QByteArrayLiteral(".") : name.toLatin1();
@@ -14,7 +14,7 @@ QByteArray strictInterfaceName(const QString& name)
 
 constexpr int callTimeoutMilliseconds = 5000;
 
-// QDBusInterface would ask the service for its introspection data first: one more blocking call.
+// QDBusInterface would first ask the service for its introspection data, which is one more blocking call.
 class RemoteObject : public QDBusAbstractInterface
 {
 public:

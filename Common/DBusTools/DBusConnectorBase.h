@@ -17,40 +17,40 @@ class Q_DECL_EXPORT DBusConnectorBase : public QObject
     Q_OBJECT
 
 public:
-    /// The bus on which the remote object is looked for.
+    /// The bus of the remote object.
     enum ConnectionMode { SystemBus = 0, SessionBus = 1 };
 
-    /// Addresses the object `/moduleName/objectName` with the interface `interfaceName` of the bus name
-    /// `Module.moduleName`. Connects to the bus when the process has not done so yet, asks it who owns the name, and
-    /// neither starts nor calls the service.
+    /// Addresses the object `/moduleName/objectName` with the interface `interfaceName` at the bus name
+    /// `Module.moduleName`. Connects to the bus if the process has not done so yet, and asks it who owns the name. The
+    /// service is neither started nor called.
     DBusConnectorBase(const QString& moduleName, const QString& objectName, const QString& interfaceName,
                       QObject* parent, ConnectionMode connectionMode);
     ~DBusConnectorBase() override;
 
-    /// For derived classes: connects to the signals of the remote object. Does nothing here, and nothing calls it.
+    /// Derived classes may connect to signals of the remote object here. The base does nothing and does not call it.
     virtual void connectServices();
 
-    /// Undoes connectServices(). Does nothing here, and nothing calls it.
+    /// Reverses connectServices(). The base does nothing and does not call it.
     virtual void disconnectServices();
 
-    /// False when the bus is not connected or the three names make no legal address. A service that is merely not
-    /// running leaves it true: the bus may start it on the first call.
+    /// False if the bus is not connected or the three names do not form a legal address. It stays true if the service
+    /// is not running: the bus may start it on the first call.
     bool isDBusInterfaceValid() const;
 
-    /// Why isDBusInterfaceValid() is false; empty while it is true.
+    /// Why isDBusInterfaceValid() is false; empty if it is true.
     QString getInvalidDBusInterfaceMessage() const;
 
-    /// Calls a method of the remote object and blocks until its answer arrives, for 5 s at the most. The method must
-    /// answer with one variant that holds a reply record.
+    /// Calls a method of the remote object and blocks until its answer arrives, for at most 5 s. The method must answer
+    /// with one variant that contains a reply record.
     ///
-    /// Without a usable interface, and after a call that failed or was not answered with a variant, the reply is an
-    /// error with the default error code; its text is logged as two warnings, and dBusConnectionError() is emitted
-    /// once. An error within the record is returned and not logged.
+    /// If the interface is not valid, the call fails or the answer is not a variant, the reply is an error with the
+    /// default error code. Its text is logged as two warnings, and dBusConnectionError() is emitted once. An error in
+    /// the record is returned and not logged.
     template <typename... Arguments>
     Q_DECL_HIDDEN DBusReply syncCallHelper(const QString& methodName, Arguments&&... arguments) const;
 
 Q_SIGNALS:
-    /// A call failed on this side of the record: no usable interface, no answer, or no variant in it.
+    /// A call failed without a reply record: no valid interface, no answer, or an answer that is not a variant.
     void dBusConnectionError() const;
 
 private:
@@ -58,8 +58,8 @@ private:
     QString addressError;
 };
 
-// Hidden in every binary that instantiates it: a weak export would give way to the copy of another binary, compiled
-// with other settings of the log context.
+// Hidden in every binary that instantiates it: a weak export could be replaced by the copy of another binary, which may
+// be compiled with other log context settings.
 template <typename... Arguments>
 DBusReply DBusConnectorBase::syncCallHelper(const QString& methodName, Arguments&&... arguments) const
 {

@@ -7,8 +7,8 @@ namespace
 
 const QLatin1String recordSignature("(bisv)");
 
-// Qt hands an array of strings over as QStringList, which it would convert to a string. No reader may take the array
-// for text, so it goes on as the container that it is.
+// Qt delivers an array of strings as QStringList, which converts to a string. An array must not be taken for text, so
+// it is turned back into a container.
 QVariant keepContainer(const QVariant& value)
 {
     if (value.userType() != QMetaType::QStringList)

@@ -5,13 +5,12 @@
 #include <QDBusArgument>
 #include <QVariant>
 
-/// The outcome of one D-Bus call: a value or an error. On the bus it is the structure `(bisv)`: is it an error,
+/// The outcome of one D-Bus call: a value or an error. On the bus it is the structure `(bisv)`: whether it is an error,
 /// error code, error message, value.
 ///
-/// A value of a D-Bus basic type, and a byte array, is held as the matching Qt type. Every other container, an array
-/// of strings included, is held as a QDBusArgument; a variant within the variant as a QDBusVariant. Compare the
-/// argument's currentSignature() before you read it: Qt's demarshalling does not survive a signature that it did not
-/// expect.
+/// A value of a basic D-Bus type, or a byte array, is stored as the matching Qt type. Every other container, including
+/// an array of strings, is stored as a QDBusArgument, and a variant within the variant as a QDBusVariant. Compare the
+/// argument's currentSignature() before you read it: Qt's demarshalling can crash on an unexpected signature.
 class Q_DECL_EXPORT DBusReply
 {
 public:
@@ -24,7 +23,7 @@ public:
     /// False for a new reply.
     bool isError() const;
 
-    /// Code 0 and a null message unless isError(). Lives as long as this object.
+    /// Code 0 and a null message unless isError(). The reference lives as long as this object.
     const ErrorContainer& getError() const;
 
     /// Turns the reply into a successful one.
@@ -41,10 +40,10 @@ private:
 
 Q_DECLARE_METATYPE(DBusReply)
 
-/// Writes the record. An error reply, or one without a value, carries an empty string as its value. A value of a type
-/// of your own must have been registered with qDBusRegisterMetaType().
+/// Writes the record. The value of an error reply, or of a reply without a value, is an empty string. The type of any
+/// other value must be registered with qDBusRegisterMetaType().
 Q_DECL_EXPORT QDBusArgument& operator<<(QDBusArgument& argument, const DBusReply& reply);
 
-/// Reads the record. A record of another form, or an argument that holds nothing to read, becomes an error reply with
-/// the default error code whose message names the signature found and the one expected. Never trusts the sender.
+/// Reads the record and never trusts the sender: a record of another signature, or an argument without data, becomes an
+/// error reply with the default error code. Its message names the signature found and the one expected.
 Q_DECL_EXPORT const QDBusArgument& operator>>(const QDBusArgument& argument, DBusReply& reply);

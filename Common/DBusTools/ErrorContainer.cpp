@@ -1,8 +1,8 @@
 #include "Common/DBusTools/ErrorContainer.h"
 
-ErrorContainer::ErrorContainer(int errorCode, const QString& errorMessage)
-    : errorCode(errorCode)
-    , errorMessage(errorMessage)
+ErrorContainer::ErrorContainer(int code, const QString& message)
+    : errorCode(code)
+    , errorMessage(message)
 {
 }
 

@@ -2,22 +2,19 @@
 
 #include <QString>
 
-/// An error code with its message. A default-constructed one is no error: code 0, null message.
+/// An error code with its message. Default-constructed, it is not an error: code 0, null message.
 class Q_DECL_EXPORT ErrorContainer
 {
 public:
     ErrorContainer() = default;
 
-    /// Keeps both as they are.
-    ErrorContainer(int errorCode, const QString& errorMessage);
+    ErrorContainer(int code, const QString& message);
 
-    /// The code of every failure that has no code of its own: -1.
+    /// The code of every failure without a code of its own: -1.
     static int getDefaultErrorCode();
 
-    /// The code given, 0 when none was.
     int getErrorCode() const;
 
-    /// The message given, null when none was.
     QString getErrorMessage() const;
 
 private:

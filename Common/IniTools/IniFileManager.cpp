@@ -1,6 +1,7 @@
 #include "Common/IniTools/IniFileManager.h"
 
-#include "Common/FileTools/RegularFile.h"
+#include "ResourceFormat/IniParser.h"
+#include "ResourceFormat/RegularFile.h"
 
 #include <QLoggingCategory>
 #include <QTextCodec>
@@ -20,43 +21,55 @@ QTextCodec& codecForName(const char* name)
     return *QTextCodec::codecForName("UTF-8");
 }
 
-} // namespace
-
-IniFileManager::IniFileManager(const QString& path, const char* codec)
+ResourceFormat::IniParser read(const QString& path, const char* codec)
 {
     QString reason;
-    const QByteArray content = RegularFile::readAll(path, reason);
+    const QByteArray content = ResourceFormat::RegularFile::readAll(path, reason);
     if (!reason.isNull()) {
         qCWarning(platformIni).noquote().nospace() << "Cannot read \"" << path << "\": " << reason;
-        return;
+        return {};
     }
-    parser = IniParser(content, codecForName(codec));
-    for (const IniParser::Fault& fault : parser.faults())
+    ResourceFormat::IniParser parser(content, codecForName(codec));
+    for (const ResourceFormat::IniParser::Fault& fault : parser.faults())
         qCWarning(platformIni).noquote().nospace() << path << ':' << fault.line << ": " << fault.reason;
+    return parser;
+}
+
+} // namespace
+
+class IniFileManager::Private
+{
+public:
+    const ResourceFormat::IniParser parser;
+};
+
+IniFileManager::IniFileManager(const QString& path, const char* codec)
+    : d(new Private{read(path, codec)})
+{
 }
 
 IniFileManager::~IniFileManager() = default;
 
 bool IniFileManager::contains(const QString& group, const QString& key) const
 {
-    return parser.find(group, key) != nullptr;
+    return d->parser.find(group, key) != nullptr;
 }
 
 QString IniFileManager::getValueString(const QString& group, const QString& key, const QString& defaultValue) const
 {
-    const IniEntry* entry = parser.find(group, key);
+    const ResourceFormat::IniEntry* entry = d->parser.find(group, key);
     return entry == nullptr ? defaultValue : entry->value;
 }
 
 QVariant IniFileManager::getValue(const QString& group, const QString& key, const QVariant& defaultValue) const
 {
-    const IniEntry* entry = parser.find(group, key);
+    const ResourceFormat::IniEntry* entry = d->parser.find(group, key);
     return entry == nullptr ? defaultValue : QVariant(entry->value);
 }
 
 int IniFileManager::getValueInteger(const QString& group, const QString& key, int defaultValue) const
 {
-    const IniEntry* entry = parser.find(group, key);
+    const ResourceFormat::IniEntry* entry = d->parser.find(group, key);
     bool isInteger = false;
     const int number = entry == nullptr ? 0 : entry->value.toInt(&isInteger);
     return isInteger ? number : defaultValue;
@@ -64,10 +77,10 @@ int IniFileManager::getValueInteger(const QString& group, const QString& key, in
 
 QList<QString> IniFileManager::getGroups() const
 {
-    return parser.groups();
+    return d->parser.groups();
 }
 
 QList<QString> IniFileManager::getChildKeys(const QString& group) const
 {
-    return parser.keys(group);
+    return d->parser.keys(group);
 }

@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// The languages that the platform falls back to.
+/// The platform's fallback languages.
 class Q_DECL_EXPORT LanguageDefinitions
 {
 public:
-    /// The file of the second fall-back language, which offers every text: "en.json".
+    /// The file of the second fallback language, which has every text: "en.json".
     static const QString& getSecondFallbackLanguageFilename();
 };

@@ -1,29 +1,24 @@
 #include "Common/TextTools/TextManager.h"
 
-#include "Common/FileTools/RegularFile.h"
-#include "Common/TextTools/LanguageDefinitions.h"
+#include "ResourceFormat/Language.h"
+#include "ResourceFormat/RegularFile.h"
 
 #include <QDir>
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLoggingCategory>
+#include <QVector>
 
 namespace
 {
 
 Q_LOGGING_CATEGORY(platformText, "platform.text")
 
-// The files in which a text of the language is looked for, in this order.
-QStringList fallbackFilenames(const QString& language)
-{
-    const QString extension = QStringLiteral(".json");
-    QStringList filenames(language + extension);
-    const int territory = language.indexOf(QLatin1Char('_'));
-    if (territory >= 0)
-        filenames.append(language.left(territory) + extension);
-    filenames.append(LanguageDefinitions::getSecondFallbackLanguageFilename());
-    return filenames;
-}
+struct Catalog {
+    QStringList urls; // sorted
+    QHash<QString, QString> texts;
+};
 
 void warnOfSyntax(const QString& path, const QByteArray& content, const QJsonParseError& error)
 {
@@ -33,78 +28,14 @@ void warnOfSyntax(const QString& path, const QByteArray& content, const QJsonPar
     qCWarning(platformText).noquote().nospace() << path << ':' << line << ':' << column << ": " << error.errorString();
 }
 
-} // namespace
-
-TextManager::TextManager(const QString& directory, const QString& language, QObject* parent)
-    : TextManagerBase(parent)
-    , directory(directory)
+// Empty, and logged, if the file is not a JSON object.
+QJsonObject readObject(const QString& path)
 {
-    load(language);
-}
-
-void TextManager::setLanguage(const QString& name)
-{
-    load(name);
-    Q_EMIT languageReloaded();
-}
-
-QString TextManager::getLanguageName() const
-{
-    return language;
-}
-
-QList<QString> TextManager::getAvailableUrls(const QString& languageFilename) const
-{
-    return catalogue(languageFilename).urls;
-}
-
-QString TextManager::getText(const QString& url, const QString& languageName) const
-{
-    for (const Catalogue& catalogue : fallbackChain(languageName).catalogues) {
-        const auto text = catalogue.texts.constFind(url);
-        if (text != catalogue.texts.constEnd())
-            return *text;
-    }
-    return url;
-}
-
-void TextManager::load(const QString& name)
-{
-    language = name;
-    catalogues.clear();
-    lastChain = FallbackChain();
-    fallbackChain(name);
-}
-
-const TextManager::FallbackChain& TextManager::fallbackChain(const QString& languageName) const
-{
-    if (lastChain.catalogues.isEmpty() || lastChain.language != languageName) {
-        // Reading may log, and the message handler may ask for a text of another language.
-        FallbackChain chain{languageName, {}};
-        for (const QString& filename : fallbackFilenames(languageName))
-            chain.catalogues.append(catalogue(filename));
-        lastChain = chain;
-    }
-    return lastChain;
-}
-
-const TextManager::Catalogue& TextManager::catalogue(const QString& filename) const
-{
-    auto found = catalogues.find(filename);
-    if (found == catalogues.end())
-        found = catalogues.insert(filename, readCatalogue(filename));
-    return *found;
-}
-
-TextManager::Catalogue TextManager::readCatalogue(const QString& filename) const
-{
-    Catalogue result;
-    const QString path = QDir(directory).filePath(filename);
     QString reason;
-    const QByteArray content = RegularFile::readAll(path, reason);
+    const QByteArray content = ResourceFormat::RegularFile::readAll(path, reason);
     if (!reason.isNull()) {
         qCWarning(platformText).noquote().nospace() << "Cannot read \"" << path << "\": " << reason;
-        return result;
+        return QJsonObject();
     }
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(content, &error);
@@ -112,17 +43,110 @@ TextManager::Catalogue TextManager::readCatalogue(const QString& filename) const
         warnOfSyntax(path, content, error);
     else if (!document.isObject())
         qCWarning(platformText).noquote().nospace() << path << ": not a JSON object";
-    const QJsonObject object = document.object();
+    return document.object();
+}
+
+Catalog readCatalog(const QString& path)
+{
+    Catalog catalog;
+    const QJsonObject object = readObject(path);
     for (auto member = object.begin(); member != object.end(); ++member) {
         const QString url = member.key();
         const QJsonValue text = member.value();
         if (text.isString())
-            result.texts.insert(url, text.toString());
+            catalog.texts.insert(url, text.toString());
         else
             qCWarning(platformText).noquote().nospace() << path << ": \"" << url << "\" is not a string";
     }
-    // Not from the object: it may hold a name twice, with and without a byte-order mark in front.
-    result.urls = result.texts.keys();
-    result.urls.sort();
-    return result;
+    // Not from the object: it may contain a name twice, with and without a byte-order mark.
+    catalog.urls = catalog.texts.keys();
+    catalog.urls.sort();
+    return catalog;
+}
+
+} // namespace
+
+class TextManager::Private
+{
+public:
+    explicit Private(const QString& directoryPath)
+        : directory(directoryPath)
+    {
+    }
+
+    void load(const QString& name)
+    {
+        language = name;
+        catalogs.clear();
+        lastChain = Chain();
+        chain(name);
+    }
+
+    const Catalog& catalog(const QString& fileName)
+    {
+        auto found = catalogs.find(fileName);
+        if (found == catalogs.end())
+            found = catalogs.insert(fileName, readCatalog(directory.filePath(fileName)));
+        return *found;
+    }
+
+    // The catalogs in which a text of the language is looked up, in this order.
+    const QVector<Catalog>& chain(const QString& languageName)
+    {
+        if (lastChain.catalogs.isEmpty() || lastChain.language != languageName) {
+            // Reading may log, and the message handler may ask for a text of another language.
+            Chain fresh{languageName, {}};
+            for (const QString& name : ResourceFormat::Language::fallbackChain(languageName))
+                fresh.catalogs.append(catalog(ResourceFormat::Language::fileName(name)));
+            lastChain = fresh;
+        }
+        return lastChain.catalogs;
+    }
+
+    QString language;
+
+private:
+    struct Chain {
+        QString language;
+        QVector<Catalog> catalogs;
+    };
+
+    const QDir directory;
+    QHash<QString, Catalog> catalogs; // by file name
+    Chain lastChain;                  // callers ask for many texts of one language
+};
+
+TextManager::TextManager(const QString& directory, const QString& language, QObject* parent)
+    : TextManagerBase(parent)
+    , d(std::make_unique<Private>(directory))
+{
+    d->load(language);
+}
+
+TextManager::~TextManager() = default;
+
+void TextManager::setLanguage(const QString& name)
+{
+    d->load(name);
+    Q_EMIT languageReloaded();
+}
+
+QString TextManager::getLanguageName() const
+{
+    return d->language;
+}
+
+QList<QString> TextManager::getAvailableUrls(const QString& languageFilename) const
+{
+    return d->catalog(languageFilename).urls;
+}
+
+QString TextManager::getText(const QString& url, const QString& languageName) const
+{
+    for (const Catalog& catalog : d->chain(languageName)) {
+        const auto text = catalog.texts.constFind(url);
+        if (text != catalog.texts.constEnd())
+            return *text;
+    }
+    return url;
 }

@@ -1,6 +1,6 @@
-#include "Common/ColorTools/Contrast.h"
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/Rule.h"
+#include "ResourceFormat/Contrast.h"
 
 namespace
 {
@@ -38,7 +38,7 @@ void checkPair(const IniFile& file, const IniEntry& text, const IniEntry& backgr
 {
     if (!QColor::isValidColor(text.value) || !QColor::isValidColor(background.value))
         return;
-    const double ratio = Contrast::ratio(QColor(text.value), QColor(background.value));
+    const double ratio = ResourceFormat::Contrast::ratio(QColor(text.value), QColor(background.value));
     if (ratio < leastContrast) {
         report(file.valuePlace(text),
                QStringLiteral("contrast of %1/%2 on %3/%4 is %5, readable is %6 or more")

@@ -1,7 +1,7 @@
-#include "Common/FileTools/RegularFile.h"
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/Rule.h"
 #include "ResourceCheck/rules/JsonFaults.h"
+#include "ResourceFormat/RegularFile.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
 #include <QDirIterator>
@@ -205,7 +205,7 @@ void reportSame(const Project& project, const IconAlias& alias, const Report& re
         if (!isFileInside(project, path.path))
             continue;
         QString problem;
-        const QByteArray content = RegularFile::readAll(fileOf(project, path.path).filePath(), problem);
+        const QByteArray content = ResourceFormat::RegularFile::readAll(fileOf(project, path.path).filePath(), problem);
         const QString first = contexts.value(content, path.context);
         contexts.insert(content, first);
         if (first != path.context)

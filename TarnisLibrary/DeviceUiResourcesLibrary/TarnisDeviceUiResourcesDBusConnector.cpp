@@ -27,8 +27,7 @@ QList<QPair<QSize, QString>> TarnisDeviceUiResourcesDBusConnector::getSupportedD
                    << reply.getError().getErrorMessage();
         return displaySizes;
     }
-    // Anything but a QDBusArgument casts to an empty one. Reading an array of another signature would end the
-    // process.
+    // Anything but a QDBusArgument casts to an empty one. Reading an array of another signature would end the process.
     const auto argument = qvariant_cast<QDBusArgument>(reply.getValue());
     if (argument.currentSignature() != QLatin1String("a((ii)s)")) {
         qWarning() << "Unable to extract supported display sizes from dbus reply";

@@ -14,7 +14,7 @@
 namespace
 {
 
-// In doubles: the difference of two ints can exceed an int, its square a 64-bit integer.
+// In doubles: the difference of two ints can overflow an int, and its square a 64-bit integer.
 double distance(const QSize& left, const QSize& right)
 {
     const double dx = static_cast<double>(left.width()) - right.width();
@@ -22,7 +22,7 @@ double distance(const QSize& left, const QSize& right)
     return std::sqrt(dx * dx + dy * dy);
 }
 
-// 0 when there is none.
+// 0 if the list is empty.
 int nearestIndex(const QList<QPair<QSize, QString>>& displaySizes, const QSize& screenSize)
 {
     int nearest = 0;
@@ -39,10 +39,10 @@ int nearestIndex(const QList<QPair<QSize, QString>>& displaySizes, const QSize& 
 
 } // namespace
 
-TarnisElementDimensionHandler::TarnisElementDimensionHandler(const QList<QPair<QSize, QString>>& supportedDisplaySizes,
+TarnisElementDimensionHandler::TarnisElementDimensionHandler(const QList<QPair<QSize, QString>>& displaySizes,
                                                              QObject* parent)
     : QObject(parent)
-    , supportedDisplaySizes(supportedDisplaySizes)
+    , supportedDisplaySizes(displaySizes)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen == nullptr) {
@@ -67,7 +67,7 @@ void TarnisElementDimensionHandler::loadUiElementDimensions(const QPair<QSize, Q
 {
     const IniFileManager dimensionFile(displaySize.second, nullptr);
     dimensions = QVariantMap();
-    // As a rule the keys of a group stand in order: then each belongs behind the one before.
+    // The keys of a group are usually sorted, so each one is inserted after the one before.
     QVariantMap::const_iterator position = dimensions.constEnd();
     const QList<QString> groups = dimensionFile.getGroups();
     for (const QString& group : groups) {
@@ -84,7 +84,7 @@ void TarnisElementDimensionHandler::onScreenGeometryChanged(const QRect& geometr
 {
     if (supportedDisplaySizes.isEmpty())
         return;
-    // Not copied: most events keep the entry.
+    // A reference, since most events keep the entry.
     const auto& nearest = supportedDisplaySizes.at(nearestIndex(supportedDisplaySizes, geometry.size()));
     if (nearest == currentDisplaySize)
         return;

@@ -7,7 +7,6 @@
 namespace
 {
 
-const QString familyKey = QStringLiteral("Family");
 constexpr double pointsPerInch = 72.0;
 constexpr double defaultDotsPerInch = 96.0;
 

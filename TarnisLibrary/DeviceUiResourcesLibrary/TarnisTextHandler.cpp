@@ -2,11 +2,11 @@
 
 #include "Common/TextTools/LanguageDefinitions.h"
 
-TarnisTextHandler::TarnisTextHandler(const TextManager& textManager, QObject* parent)
+TarnisTextHandler::TarnisTextHandler(const TextManager& manager, QObject* parent)
     : QObject(parent)
-    , textManager(textManager)
+    , textManager(manager)
 {
-    connect(&textManager, &TextManagerBase::languageReloaded, this, &TarnisTextHandler::updateTexts);
+    connect(&manager, &TextManagerBase::languageReloaded, this, &TarnisTextHandler::updateTexts);
     updateTexts();
 }
 
@@ -18,11 +18,11 @@ const QVariantMap& TarnisTextHandler::translatedTexts() const
 void TarnisTextHandler::updateTexts()
 {
     texts = QVariantMap();
-    const TextManagerBase& catalogue = textManager;
-    const QString language = catalogue.getLanguageName();
-    const QList<QString> urls = catalogue.getAvailableUrls(LanguageDefinitions::getSecondFallbackLanguageFilename());
-    // A catalogue lists its URLs in order as a rule: then each belongs at the end of the map.
+    const TextManagerBase& catalog = textManager;
+    const QString language = catalog.getLanguageName();
+    const QList<QString> urls = catalog.getAvailableUrls(LanguageDefinitions::getSecondFallbackLanguageFilename());
+    // URLs are usually sorted, so each one is inserted at the end of the map.
     for (const QString& url : urls)
-        texts.insert(texts.constEnd(), url, catalogue.getText(url, language));
+        texts.insert(texts.constEnd(), url, catalog.getText(url, language));
     Q_EMIT translatedTextsChanged();
 }

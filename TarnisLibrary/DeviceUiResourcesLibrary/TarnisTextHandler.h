@@ -6,26 +6,26 @@
 #include <QObject>
 #include <QVariantMap>
 
-/// Publishes all texts of the current language and follows the reloads of the text catalogue. Logs nothing.
+/// Publishes all texts of the current language and follows the reloads of the text catalog. Logs nothing.
 class TARNISLIBRARY_EXPORT TarnisTextHandler : public QObject
 {
     Q_OBJECT
 
-    /// Texts by their URL: each URL that the second fall-back language offers, in the current language.
+    /// Texts by URL: each URL of the second fallback language, in the current language.
     Q_PROPERTY(QVariantMap translatedTexts READ translatedTexts NOTIFY translatedTextsChanged)
 
 public:
-    /// The text manager stays the caller's and must outlive the handler.
-    explicit TarnisTextHandler(const TextManager& textManager, QObject* parent = nullptr);
+    /// The caller keeps the text manager, which must outlive the handler.
+    explicit TarnisTextHandler(const TextManager& manager, QObject* parent = nullptr);
 
     /// Valid until the next update.
     const QVariantMap& translatedTexts() const;
 
-    /// Rebuilds the texts and emits translatedTextsChanged(), also when nothing changed.
+    /// Rebuilds the texts and emits translatedTextsChanged(), even if nothing changed.
     void updateTexts();
 
 Q_SIGNALS:
-    /// The texts have been built anew.
+    /// The texts have been rebuilt.
     void translatedTextsChanged();
 
 private:

@@ -11,7 +11,7 @@ TarnisIconHandler::TarnisIconHandler(const QString& iconBasePath, const QString&
     : QObject(parent)
     , iconBaseDirectory(QString())
 {
-    // QDir keeps one of several slashes at the end of a path.
+    // QDir alone would keep one of several slashes at the end of the path.
     if (QDir(iconBasePath).exists())
         iconBaseDirectory = QDir(QDir::cleanPath(iconBasePath));
     else
@@ -28,9 +28,7 @@ QString TarnisIconHandler::getIconPath(const QString& aliasName, const QString& 
         qWarning() << "Unknown alias name (" << aliasName << ")";
         return QString();
     }
-    auto relativePath = contexts->constFind(context);
-    if (relativePath == contexts->constEnd())
-        relativePath = contexts->constFind(defaultContextPathKey);
+    const auto relativePath = findContext(*contexts, context);
     if (relativePath == contexts->constEnd()) {
         qWarning() << "Unknown context (" << defaultContextPathKey << ")";
         return QString();
@@ -49,7 +47,7 @@ QString TarnisIconHandler::getIconPathAsFileUrl(const QString& aliasName, const 
     return path.isEmpty() ? path : QStringLiteral("file:") % path;
 }
 
-// A QJsonObject yields its members in the order of their names: each belongs at the end of the map.
+// A QJsonObject lists its members sorted by name, so each one is inserted at the end of the map.
 TarnisIconHandler::IconMap TarnisIconHandler::parseMappingTable(const QString& mappingTable) const
 {
     IconMap icons;
@@ -60,11 +58,11 @@ TarnisIconHandler::IconMap TarnisIconHandler::parseMappingTable(const QString& m
         return icons;
     }
     QJsonObject aliases = document.object();
-    document = QJsonDocument(); // or the first change of the object would copy it
+    document = QJsonDocument(); // otherwise the first change of the object would copy it
     for (auto alias = aliases.begin(); alias != aliases.end(); ++alias) {
         QJsonValueRef contexts = alias.value();
         icons.insert(icons.constEnd(), alias.key(), extractContextBaseMapping(contexts));
-        contexts = QJsonValue(); // gives its memory back before the next one takes more
+        contexts = QJsonValue(); // frees its memory before the next one takes more
     }
     return icons;
 }

@@ -5,22 +5,21 @@
 
 #include <QString>
 
-/// Asks the Tarnis module, over the system bus, for the two things that icon paths are made of.
+/// Asks the Tarnis module over the system bus for the icon directory and the icon mapping table.
 ///
-/// The owner deletes it; it has no parent. Every getter makes one D-Bus call and blocks for 5 s at the most; nothing
-/// is kept between calls. A call that fails is logged as two warnings by DBusConnectorBase::syncCallHelper() and one
-/// of the getter.
+/// It has no parent; its owner deletes it. Every getter makes one D-Bus call, which blocks for at most 5 s; nothing is
+/// cached. For a failed call, DBusConnectorBase::syncCallHelper() logs two warnings and the getter one.
 class TARNISLIBRARY_EXPORT TarnisIconProviderDBusConnector : public DBusConnectorBase
 {
 public:
     TarnisIconProviderDBusConnector();
     ~TarnisIconProviderDBusConnector() override;
 
-    /// The base directory of the icon files, untested. On failure, or if the service answers with something that is
-    /// no text, a warning and a null string.
+    /// The base directory of the icon files; its existence is not checked. If the call fails or the value is not text,
+    /// logs a warning and returns a null string.
     QString getIconResourcesBasePath() const;
 
-    /// The JSON text of the icon mapping table with this name, unparsed; the empty name is the default table. Fails
-    /// like getIconResourcesBasePath().
+    /// The JSON text of the icon mapping table with this name; the empty name is the default table. Fails like
+    /// getIconResourcesBasePath().
     QString getIconResourcesMappingTable(const QString& name) const;
 };

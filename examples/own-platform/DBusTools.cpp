@@ -20,9 +20,9 @@ public:
 
 } // namespace
 
-ErrorContainer::ErrorContainer(int errorCode, const QString& errorMessage)
-    : errorCode(errorCode)
-    , errorMessage(errorMessage)
+ErrorContainer::ErrorContainer(int code, const QString& message)
+    : errorCode(code)
+    , errorMessage(message)
 {
 }
 
@@ -65,7 +65,7 @@ QVariant DBusReply::getValue() const
 const QDBusArgument& operator>>(const QDBusArgument& argument, DBusReply& reply)
 {
     if (argument.currentSignature() != "(bisv)") {
-        reply.setError(ErrorContainer::getDefaultErrorCode(), "no reply record");
+        reply.setError(ErrorContainer::getDefaultErrorCode(), "not a reply record");
         return argument;
     }
     bool isError = false;

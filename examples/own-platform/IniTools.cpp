@@ -1,60 +1,65 @@
-// The platform's reader of INI files behind the installed headers: as little of it as the library uses.
+// The platform's INI reader behind the installed header, reduced to what the library uses.
 
 #include "Common/IniTools/IniFileManager.h"
 
 #include <QFile>
-#include <QTextCodec>
+#include <QMap>
+#include <QStringList>
+#include <QTextStream>
 
-#include <algorithm>
-
-bool IniEntries::append(IniEntry&& entry)
+class IniFileManager::Private
 {
-    entries.append(std::move(entry));
-    return true;
-}
+public:
+    QStringList groups;
+    QMap<QString, QStringList> keys; // by group
+    QMap<QPair<QString, QString>, QString> values;
+};
 
-const IniEntry* IniEntries::find(const QString& group, const QString& key) const
+namespace
 {
-    const auto found = std::find_if(entries.rbegin(), entries.rend(),
-                                    [&](const IniEntry& entry) { return entry.group == group && entry.key == key; });
-    return found == entries.rend() ? nullptr : &*found;
-}
 
-IniParser::IniParser(const QByteArray& content, QTextCodec& codec)
+template <typename Entries>
+Entries read(const QString& path, const char* codec)
 {
+    Entries entries;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return entries;
+    QTextStream text(&file);
+    text.setCodec(codec == nullptr ? "UTF-8" : codec);
     QString group;
-    int number = 0;
-    for (const QString& line : codec.toUnicode(content).split('\n')) {
-        ++number;
-        const QString text = line.trimmed();
-        const int separator = text.indexOf('=');
-        if (text.startsWith('[') && text.endsWith(']')) {
-            group = text.mid(1, text.size() - 2);
-            groupNames.append(group);
-        } else if (separator > 0 && !text.startsWith(';') && !text.startsWith('#')) {
-            entryList.append({group, text.left(separator).trimmed(), text.mid(separator + 1).trimmed(), number});
+    while (!text.atEnd()) {
+        const QString line = text.readLine().trimmed();
+        const int separator = line.indexOf('=');
+        if (line.startsWith('[') && line.endsWith(']')) {
+            group = line.mid(1, line.size() - 2);
+            entries.groups.append(group);
+        } else if (separator > 0 && !line.startsWith(';') && !line.startsWith('#')) {
+            const QString key = line.left(separator).trimmed();
+            entries.keys[group].append(key);
+            entries.values[{group, key}] = line.mid(separator + 1).trimmed();
         }
     }
+    return entries;
 }
 
+} // namespace
+
 IniFileManager::IniFileManager(const QString& path, const char* codec)
+    : d(new Private(read<Private>(path, codec)))
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        parser = IniParser(file.readAll(), *QTextCodec::codecForName(codec == nullptr ? "UTF-8" : codec));
 }
 
 IniFileManager::~IniFileManager() = default;
 
 bool IniFileManager::contains(const QString& group, const QString& key) const
 {
-    return parser.find(group, key) != nullptr;
+    return d->values.contains({group, key});
 }
 
 QString IniFileManager::getValueString(const QString& group, const QString& key, const QString& defaultValue) const
 {
-    const IniEntry* entry = parser.find(group, key);
-    return entry == nullptr ? defaultValue : entry->value;
+    return d->values.value({group, key}, defaultValue);
 }
 
 QVariant IniFileManager::getValue(const QString& group, const QString& key, const QVariant& defaultValue) const
@@ -71,30 +76,10 @@ int IniFileManager::getValueInteger(const QString& group, const QString& key, in
 
 QList<QString> IniFileManager::getGroups() const
 {
-    return parser.groups();
+    return d->groups;
 }
 
 QList<QString> IniFileManager::getChildKeys(const QString& group) const
 {
-    return parser.keys(group);
-}
-
-const QStringList& IniParser::groups() const
-{
-    return groupNames;
-}
-
-QStringList IniParser::keys(const QString& group) const
-{
-    QStringList names;
-    for (const IniEntry& entry : entryList.list()) {
-        if (entry.group == group)
-            names.append(entry.key);
-    }
-    return names;
-}
-
-const IniEntry* IniParser::find(const QString& group, const QString& key) const
-{
-    return entryList.find(group, key);
+    return d->keys.value(group);
 }

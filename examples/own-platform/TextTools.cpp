@@ -1,4 +1,4 @@
-// The platform's catalogue of texts behind the installed headers: one language, and no other to fall back to.
+// The platform's text catalog behind the installed headers: one language without fallbacks.
 
 #include "Common/TextTools/LanguageDefinitions.h"
 #include "Common/TextTools/TextManager.h"
@@ -6,6 +6,26 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+class TextManager::Private
+{
+public:
+    QJsonObject read(const QString& filename) const
+    {
+        QFile file(directory + '/' + filename);
+        return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+    }
+
+    void load(const QString& name)
+    {
+        language = name;
+        texts = read(name + ".json");
+    }
+
+    QString directory;
+    QString language;
+    QJsonObject texts;
+};
 
 const QString& LanguageDefinitions::getSecondFallbackLanguageFilename()
 {
@@ -17,47 +37,30 @@ TextManagerBase::~TextManagerBase() = default;
 
 TextManager::TextManager(const QString& directory, const QString& language, QObject* parent)
     : TextManagerBase(parent)
-    , directory(directory)
+    , d(new Private{directory, language, {}})
 {
-    load(language);
+    d->load(language);
 }
+
+TextManager::~TextManager() = default;
 
 void TextManager::setLanguage(const QString& name)
 {
-    load(name);
+    d->load(name);
     Q_EMIT languageReloaded();
 }
 
 QString TextManager::getLanguageName() const
 {
-    return language;
+    return d->language;
 }
 
 QList<QString> TextManager::getAvailableUrls(const QString& languageFilename) const
 {
-    return readCatalogue(languageFilename).urls;
+    return d->read(languageFilename).keys();
 }
 
 QString TextManager::getText(const QString& url, const QString& /*languageName*/) const
 {
-    return catalogues.value(language).texts.value(url, url);
-}
-
-void TextManager::load(const QString& name)
-{
-    language = name;
-    catalogues = {{name, readCatalogue(name + ".json")}};
-}
-
-TextManager::Catalogue TextManager::readCatalogue(const QString& filename) const
-{
-    Catalogue result;
-    QFile file(directory + '/' + filename);
-    if (!file.open(QIODevice::ReadOnly))
-        return result;
-    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
-    result.urls = object.keys();
-    for (const QString& url : result.urls)
-        result.texts.insert(url, object.value(url).toString());
-    return result;
+    return d->texts.value(url).toString(url);
 }

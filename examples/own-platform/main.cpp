@@ -1,4 +1,4 @@
-// A host whose platform has the classes that the library needs: see the other sources beside this one.
+// A host whose platform has its own implementation of the classes that the library needs: the other sources here.
 
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"

@@ -1,16 +1,13 @@
-#pragma once
-
-#include <QColor>
+#include "ResourceFormat/Contrast.h"
 
 #include <algorithm>
 #include <cmath>
 
-/// How well a text can be read on its background. For the tools that people look at; a device needs nothing like it.
-namespace Contrast
+namespace
 {
 
-/// The channels of the colour as they are seen on an opaque background.
-inline QColor blended(const QColor& color, const QColor& background)
+// The color as it is seen on an opaque background.
+QColor blended(const QColor& color, const QColor& background)
 {
     const auto blend = [alpha = color.alphaF()](double front, double back) {
         return alpha * front + (1 - alpha) * back;
@@ -19,8 +16,8 @@ inline QColor blended(const QColor& color, const QColor& background)
                             blend(color.blueF(), background.blueF()));
 }
 
-/// The relative luminance of WCAG 2, from 0 to 1.
-inline double luminance(const QColor& color)
+// The relative luminance, from 0 to 1.
+double luminance(const QColor& color)
 {
     const auto linear = [](double channel) {
         return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -28,8 +25,12 @@ inline double luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// The contrast ratio of WCAG 2, from 1 to 21. What shines through the background counts as white.
-inline double ratio(const QColor& text, const QColor& background)
+} // namespace
+
+namespace ResourceFormat::Contrast
+{
+
+double ratio(const QColor& text, const QColor& background)
 {
     const QColor opaque = blended(background, Qt::white);
     const double first = luminance(blended(text, opaque));
@@ -37,4 +38,4 @@ inline double ratio(const QColor& text, const QColor& background)
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-} // namespace Contrast
+} // namespace ResourceFormat::Contrast

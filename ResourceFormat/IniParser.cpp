@@ -1,13 +1,16 @@
-#include "Common/IniTools/IniParser.h"
+#include "ResourceFormat/IniParser.h"
 
 #include <QTextCodec>
 
 #include <algorithm>
 
+namespace ResourceFormat
+{
+
 namespace
 {
 
-QString unquoted(const QStringRef& value)
+QString unquoted(QStringView value)
 {
     const bool isQuoted = value.size() >= 2 && value.front() == QLatin1Char('"') && value.back() == QLatin1Char('"');
     return (isQuoted ? value.mid(1, value.size() - 2) : value).toString();
@@ -23,7 +26,7 @@ IniParser::IniParser(const QByteArray& content, QTextCodec& codec)
     for (int begin = 0; begin < text.size();) {
         const int newline = text.indexOf(QLatin1Char('\n'), begin);
         const int end = newline < 0 ? text.size() : newline;
-        parseLine(text.midRef(begin, end - begin).trimmed(), ++number);
+        parseLine(QStringView(text).mid(begin, end - begin).trimmed(), ++number);
         begin = end + 1;
     }
     std::stable_sort(faultList.begin(), faultList.end(),
@@ -62,7 +65,7 @@ QString IniParser::decode(const QByteArray& content, QTextCodec& codec)
     return state.invalidChars == 0 && state.remainingChars == 0 ? text : decodeLines(content, codec);
 }
 
-// Line by line, so that undecodable bytes are reported where they stand.
+// Line by line, so that undecodable bytes are reported with their line.
 QString IniParser::decodeLines(const QByteArray& content, QTextCodec& codec)
 {
     QString text;
@@ -77,7 +80,7 @@ QString IniParser::decodeLines(const QByteArray& content, QTextCodec& codec)
             state.flags |= QTextCodec::IgnoreHeader; // a byte-order mark further down is text
         const bool isCutOff = end == content.size() && state.remainingChars > 0;
         if (state.invalidChars > invalidBefore || isCutOff)
-            addFault(number, QStringLiteral("bytes that are no %1 text").arg(QString::fromLatin1(codec.name())));
+            addFault(number, QStringLiteral("bytes that are not valid %1 text").arg(QString::fromLatin1(codec.name())));
         text += line;
         if (isCutOff)
             text += QChar(QChar::ReplacementCharacter);
@@ -87,7 +90,7 @@ QString IniParser::decodeLines(const QByteArray& content, QTextCodec& codec)
     return text;
 }
 
-void IniParser::parseLine(const QStringRef& line, int number)
+void IniParser::parseLine(QStringView line, int number)
 {
     if (line.isEmpty() || line.front() == QLatin1Char(';') || line.front() == QLatin1Char('#'))
         return;
@@ -97,21 +100,21 @@ void IniParser::parseLine(const QStringRef& line, int number)
         parseEntryLine(line, number);
 }
 
-void IniParser::parseGroupLine(const QStringRef& line, int number)
+void IniParser::parseGroupLine(QStringView line, int number)
 {
     groupIsUsable = line.endsWith(QLatin1Char(']'));
     if (groupIsUsable)
         enterGroup(line.mid(1, line.size() - 2).trimmed().toString());
     else
         addFault(number,
-                 QStringLiteral("group line without its end \"]\"; the entries up to the next group are left out"));
+                 QStringLiteral("group line without a closing \"]\"; entries up to the next group are ignored"));
 }
 
-void IniParser::parseEntryLine(const QStringRef& line, int number)
+void IniParser::parseEntryLine(QStringView line, int number)
 {
-    const int equals = line.indexOf(QLatin1Char('='));
+    const qsizetype equals = line.indexOf(QLatin1Char('='));
     if (equals < 0) {
-        addFault(number, QStringLiteral("neither a comment, nor [group], nor key=value: \"%1\"").arg(line.toString()));
+        addFault(number, QStringLiteral("expected a comment, [group] or key=value, found \"%1\"").arg(line.toString()));
         return;
     }
     const QString key = line.left(equals).trimmed().toString();
@@ -128,7 +131,7 @@ void IniParser::parseEntryLine(const QStringRef& line, int number)
         groupKeys[currentGroup].append(key);
     else
         addFault(number,
-                 QStringLiteral("key \"%1\" given again in group \"%2\"; the last value holds").arg(key, group));
+                 QStringLiteral("duplicate key \"%1\" in group \"%2\"; the last value is used").arg(key, group));
 }
 
 void IniParser::enterGroup(const QString& name)
@@ -146,3 +149,5 @@ void IniParser::addFault(int line, const QString& reason)
 {
     faultList.append({line, reason});
 }
+
+} // namespace ResourceFormat

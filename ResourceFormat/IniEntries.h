@@ -5,6 +5,9 @@
 
 #include <vector>
 
+namespace ResourceFormat
+{
+
 /// One `name=value` line of an INI file.
 struct IniEntry {
     QString group; ///< Empty before the first group line.
@@ -12,24 +15,23 @@ struct IniEntry {
     QString value; ///< Without the blanks and the pair of quotes around it.
     int line;      ///< From 1.
 };
-Q_DECLARE_TYPEINFO(IniEntry, Q_MOVABLE_TYPE);
 
-/// The entries of an INI file in its order, found by group and key through one hash table of both names.
+/// The entries of an INI file in their order, found by group and key through one hash table of both names.
 ///
-/// Nested QHashes would hash and compare twice for each question, and follow a pointer more for each of the two.
+/// Nested QHashes would hash and compare twice for each lookup, and follow one more pointer each time.
 class IniEntries
 {
 public:
-    /// Makes room for this many entries at once.
+    /// Allocates room for this many entries at once.
     void reserve(int count);
 
-    /// Returns false when the group has the key already; the new entry is then the one that is found.
+    /// Returns false if the group already has the key; find() then answers with the new entry.
     bool append(IniEntry&& entry);
 
-    /// The entry given last under these names, or null. Valid until the next append().
+    /// The last entry with these names, or null. Valid until the next append().
     const IniEntry* find(const QString& group, const QString& key) const;
 
-    /// In the order in which they were appended, those of names given again included.
+    /// In the order in which they were appended, including those with duplicate names.
     const QVector<IniEntry>& list() const { return entries; }
 
 private:
@@ -46,3 +48,7 @@ private:
     uint used = 0;
     mutable int lastFound = -1;
 };
+
+} // namespace ResourceFormat
+
+Q_DECLARE_TYPEINFO(ResourceFormat::IniEntry, Q_MOVABLE_TYPE);

@@ -1,10 +1,13 @@
-#include "Common/IniTools/IniEntries.h"
+#include "ResourceFormat/IniEntries.h"
 
 #include <QHash>
 
 #include <algorithm>
 #include <cstring>
 #include <utility>
+
+namespace ResourceFormat
+{
 
 namespace
 {
@@ -16,7 +19,7 @@ uint hashOf(const QString& group, const QString& key)
     return qHash(key, qHash(group, 0));
 }
 
-// Inline, where QString's operator== is two calls into Qt.
+// Inlined; QString's operator== would be two calls into Qt.
 bool isEqual(const QString& left, const QString& right)
 {
     return left.size() == right.size()
@@ -58,7 +61,7 @@ const IniEntry* IniEntries::find(const QString& group, const QString& key) const
 {
     if (table.empty())
         return nullptr;
-    // Whether there is a value is asked first, and then for the value.
+    // Callers first ask whether there is a value, and then for the value.
     if (lastFound >= 0 && hasNames(entries.at(lastFound), group, key))
         return &entries.at(lastFound);
     lastFound = table[slotOf(hashOf(group, key), group, key)].entry;
@@ -92,3 +95,5 @@ void IniEntries::resizeTable(std::size_t size)
         table[index] = slot;
     }
 }
+
+} // namespace ResourceFormat
