@@ -48,11 +48,6 @@ const QVector<IniEntry>& IniParser::entries() const
     return entryList.list();
 }
 
-const IniEntry* IniParser::find(const QString& group, const QString& key) const
-{
-    return entryList.find(group, key);
-}
-
 const QVector<IniParser::Fault>& IniParser::faults() const
 {
     return faultList;

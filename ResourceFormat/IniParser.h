@@ -46,7 +46,7 @@ public:
 
     /// The entry of the key in the group, the last one if the key is a duplicate, or null. Lives as long as this
     /// object.
-    const IniEntry* find(const QString& group, const QString& key) const;
+    const IniEntry* find(const QString& group, const QString& key) const { return entryList.find(group, key); }
 
     /// In the order of their lines: any other line; an empty key name; a duplicate key; a group line without a closing
     /// bracket, after which entries are ignored until the next group line; bytes that are not valid text in the codec,

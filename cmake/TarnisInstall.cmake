@@ -1,5 +1,5 @@
-# How others find the installed library: find_package(TarnisLibrary) and pkg-config tarnislibrary.
-# The components: runtime (the library), module (the service and its sample resources), development, tools.
+# How other projects find the installed library: find_package(TarnisLibrary) and pkg-config tarnislibrary.
+# Install components: runtime (the library), module (the service and the sample resources), development, tools.
 include(CMakePackageConfigHelpers)
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/TarnisLibrary)
 

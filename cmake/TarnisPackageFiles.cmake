@@ -1,4 +1,5 @@
-# Run once the files of every package lie below the staging directory, to give them the form that Debian wants.
+# Runs after the files of all packages have been copied to the staging directory, and gives them the form that Debian
+# requires.
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} name)
     set(root ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr)
@@ -8,7 +9,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     file(RENAME ${documents}/changelog ${documents}/changelog.Debian)
     file(GLOB_RECURSE texts ${root}/share/man/* ${documents}/changelog.Debian)
     execute_process(COMMAND gzip -9n ${texts} COMMAND_ERROR_IS_FATAL ANY)
-    # Programs find the library where the system has it.
+    # Programs find the library in the system's library directory.
     file(GLOB programs ${root}/bin/*)
     foreach(program IN LISTS programs)
         file(RPATH_REMOVE FILE ${program})

@@ -1,4 +1,4 @@
-# Debian packages, one per component: scripts/packages.sh makes them.
+# Debian packages, one per component. scripts/packages.sh builds them.
 set(debian ${PROJECT_SOURCE_DIR}/packaging/debian)
 file(STRINGS ${debian}/changelog latest_change LIMIT_COUNT 1)
 string(REGEX MATCH "-([0-9]+)\\)" debian_revision "${latest_change}")
@@ -26,8 +26,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libtarnislibrary${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${debian}/triggers)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "look of a device, for its QML front end: library
-Answers the lookups of QML for the colours, fonts, pixel dimensions, texts and
-icons of a device, from resource files that a D-Bus service names.")
+Answers QML lookups of the colors, fonts, pixel dimensions, texts and icons of
+a device, from resource files that a D-Bus service names.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtarnislibrary-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -36,7 +36,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${debian_version}), qtbase5-dev (>= 5.15)")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "look of a device, for its QML front end: development files
 Headers, CMake and pkg-config files of the library, a stand-in for the host
-platform's classes, and the types of the QML module for Qt Creator and qmllint.")
+platform's classes, and the QML module's types for Qt Creator and qmllint.")
 
 set(CPACK_DEBIAN_MODULE_PACKAGE_NAME tarnis-module)
 set(CPACK_DEBIAN_MODULE_PACKAGE_SECTION admin)
@@ -45,8 +45,8 @@ systemd | systemd-standalone-sysusers | systemd-sysusers")
 set(CPACK_DEBIAN_MODULE_PACKAGE_CONTROL_EXTRA ${debian}/postinst ${debian}/prerm ${debian}/postrm)
 set(CPACK_DEBIAN_MODULE_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_MODULE_DESCRIPTION "look of a device, for its QML front end: service
-Says on the D-Bus where the colours, fonts, dimensions and icons of a device
-lie. Holds the resources of a sample device.")
+Tells over D-Bus where the colors, fonts, dimensions and icons of a device are.
+Contains the resources of a sample device.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tarnis-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
@@ -54,7 +54,7 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= 
 qml-module-qtquick2, qml-module-qtquick-controls2, qml-module-qtquick-layouts, qml-module-qtquick-window2")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS "tarnis-module, fonts-inter, fonts-dejavu-core, fonts-ipaexfont-gothic")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "look of a device, for its QML front end: tools
-A gallery of all that a device's front end is given by its resources, and a
-checker that finds the faults of resources and of the QML that uses them.")
+A gallery that shows all resources of a device, and a checker that finds
+faults in the resources and in the QML that uses them.")
 
 include(CPack)
