@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+/// Adds the rows of `tests/data/FILE.json` to a data-driven test: an array of objects, each with a "name" of its own
+/// and exactly the given fields, whose values have the same types in every row. Anything else ends the test program,
+/// so that a misspelled field or a lost file never passes as a test with fewer checks.
+inline void addRows(const QString& file, QStringList fields)
+{
+    QFile data(TEST_DATA "/" + file + ".json");
+    QJsonParseError error{};
+    const bool isOpen = data.open(QIODevice::ReadOnly);
+    const QJsonArray rows = QJsonDocument::fromJson(data.readAll(), &error).array();
+    if (!isOpen || rows.isEmpty())
+        qFatal("%s: cannot read any row: %s", qPrintable(data.fileName()),
+               qPrintable(isOpen ? error.errorString() : data.errorString()));
+    fields.append("name");
+    fields.sort();
+    QStringList names;
+    QTest::addColumn<QJsonObject>("row");
+    for (const QJsonValue row : rows) {
+        const QString name = row["name"].toString();
+        bool isGood = row.toObject().keys() == fields && !name.isEmpty() && !names.contains(name);
+        for (const QString& field : qAsConst(fields))
+            isGood &= row[field].type() == rows.at(0)[field].type();
+        if (!isGood)
+            qFatal("%s: row \"%s\" must have a unique name and the fields %s, with the types of the first row",
+                   qPrintable(data.fileName()), qPrintable(name), qPrintable(fields.join(", ")));
+        names.append(name);
+        QTest::newRow(qPrintable(name)) << row.toObject();
+    }
+}
+
+/// The row that the test is called for.
+inline QJsonObject row()
+{
+    QFETCH(QJsonObject, row);
+    return row;
+}
