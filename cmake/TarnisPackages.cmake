@@ -25,18 +25,18 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY >=)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libtarnislibrary${PROJECT_VERSION_MAJOR})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${debian}/triggers)
-set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "look of a device, for its QML front end: library
-Answers QML lookups of the colors, fonts, pixel dimensions, texts and icons of
-a device, from resource files that a D-Bus service names.")
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "UI resources for the QML front end of a device: library
+Answers QML lookups of the colors, fonts, element dimensions, texts and icons
+of a device. A D-Bus service provides the paths of the resource files.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libtarnislibrary-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${debian_version}), qtbase5-dev (>= 5.15)")
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "look of a device, for its QML front end: development files
-Headers, CMake and pkg-config files of the library, a stand-in for the host
-platform's classes, and the QML module's types for Qt Creator and qmllint.")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "UI resources for the QML front end of a device: development files
+Contains headers, CMake and pkg-config files, a stand-in for the classes of
+the host platform, and QML types for Qt Creator and qmllint.")
 
 set(CPACK_DEBIAN_MODULE_PACKAGE_NAME tarnis-module)
 set(CPACK_DEBIAN_MODULE_PACKAGE_SECTION admin)
@@ -44,17 +44,17 @@ set(CPACK_DEBIAN_MODULE_PACKAGE_DEPENDS "default-dbus-system-bus | dbus-system-b
 systemd | systemd-standalone-sysusers | systemd-sysusers")
 set(CPACK_DEBIAN_MODULE_PACKAGE_CONTROL_EXTRA ${debian}/postinst ${debian}/prerm ${debian}/postrm)
 set(CPACK_DEBIAN_MODULE_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_DEBIAN_MODULE_DESCRIPTION "look of a device, for its QML front end: service
-Tells over D-Bus where the colors, fonts, dimensions and icons of a device are.
-Contains the resources of a sample device.")
+set(CPACK_DEBIAN_MODULE_DESCRIPTION "UI resources for the QML front end of a device: service
+Publishes the paths of the colors, fonts, dimensions and icons of a device on
+the D-Bus. Contains the resources of a sample device.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME tarnis-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${debian_version}), libqt5svg5, \
 qml-module-qtquick2, qml-module-qtquick-controls2, qml-module-qtquick-layouts, qml-module-qtquick-window2")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS "tarnis-module, fonts-inter, fonts-dejavu-core, fonts-ipaexfont-gothic")
-set(CPACK_DEBIAN_TOOLS_DESCRIPTION "look of a device, for its QML front end: tools
-A gallery that shows all resources of a device, and a checker that finds
-faults in the resources and in the QML that uses them.")
+set(CPACK_DEBIAN_TOOLS_DESCRIPTION "UI resources for the QML front end of a device: tools
+Contains a gallery that shows all resources of a device, and a checker that
+finds faults in the resources and in the QML code that uses them.")
 
 include(CPack)

@@ -8,13 +8,16 @@ class Q_DECL_EXPORT ErrorContainer
 public:
     ErrorContainer() = default;
 
+    /// An error with this code and message.
     ErrorContainer(int code, const QString& message);
 
     /// The code of every failure without a code of its own: -1.
     static int getDefaultErrorCode();
 
+    /// The code of the error, or 0.
     int getErrorCode() const;
 
+    /// The message of the error, or a null string.
     QString getErrorMessage() const;
 
 private:
