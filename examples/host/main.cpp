@@ -1,5 +1,5 @@
-// A complete host: it asks the service where the resources lie, and offers them to QML as the singleton Ui of the
-// module Tarnis, which is what Qt Creator and qmllint know from the installed types.
+// A complete host. It asks the service where the resources are and offers the handlers to QML as the singleton Ui of
+// the module Tarnis. Qt Creator and qmllint know this singleton from the installed types.
 
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
@@ -25,14 +25,14 @@ class Ui : public QObject
     Q_PROPERTY(TarnisIconHandler* icons READ getIcons CONSTANT)
 
 public:
-    // Each call to the service blocks for 5 s at the most; what fails is said in the log.
+    // Each call to the service blocks for at most 5 s. Failed calls are logged.
     Ui(const TarnisDeviceUiResourcesDBusConnector& resources, const TarnisIconProviderDBusConnector& iconProvider)
         : colorIniFilePath(resources.getColorIniFilePath())
         , colors(colorIniFilePath)
         , fonts(resources.getFontIniFilePath())
         , dimensions(resources.getSupportedDisplaySizes())
         , icons(iconProvider.getIconResourcesBasePath(), iconProvider.getIconResourcesMappingTable(QString()))
-        // The catalogue of texts is the host's own. The sample's lies beside the colours.
+        // The service does not publish texts. In the sample, their directory is next to the color file.
         , textManager(QFileInfo(colorIniFilePath).path() + "/texts", "en")
         , texts(textManager)
     {
@@ -51,7 +51,7 @@ private:
     TarnisElementDimensionHandler dimensions;
     TarnisIconHandler icons;
     TextManager textManager;
-    TarnisTextHandler texts; // after the text manager, which must outlive it
+    TarnisTextHandler texts; // declared after the text manager, which must outlive it
 };
 
 int main(int argc, char* argv[])
