@@ -1,10 +1,8 @@
-// The connectors against tarnis-module, and handlers in a process that has no screen.
+// The connectors against tarnis-module.
 
-#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
-#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
+#include "tests/support/DataRows.h"
 #include "tests/support/Getters.h"
 #include "tests/support/LogRecorder.h"
-#include "tests/support/Rows.h"
 #include "tests/support/TestProcess.h"
 
 #include <QSignalSpy>
@@ -15,37 +13,6 @@
 
 namespace
 {
-
-const Rows wrongAddresses{
-    "       | Object | Some.Interface | system  | Module.",
-    "Tarnis |        | Some.Interface | system  | /Tarnis/",
-    "Tarnis | Object | single         | system  | single",
-    "Tarnis | Object |                | system  | interface",
-    "Tarnis | Object | Some.Interface | session | No connection to the D-Bus (qt_default_session_bus): ",
-};
-// What is not answered, the file and the command that spoils it, and the reason in the record.
-const Rows badFiles{
-    "fonts      | fonts.ini              | rm $F               | does not exist",
-    "colors     | colors.ini             | rm $F; mkdir $F     | is not a regular file",
-    "colors     | colors.ini             | rm $F; mkfifo $F    | is not a regular file",
-    "sizes      | dimensions/800x480.ini | rm $F; mkdir $F     | is not a regular file",
-    "sizes      | dimensions/800X480.ini | touch $F            | is not named WIDTHxHEIGHT.ini",
-    "sizes      | dimensions/0x480.ini   | touch $F            | is not named WIDTHxHEIGHT.ini",
-    "sizes      | dimensions             | rm -r $F            | holds no dimension file",
-    "base table | icons                  | rm -r $F            | is not a directory",
-    "table      | icons/mapping.json     | rm $F               | does not exist",
-    "table      | icons/mapping.json     | echo '{\"a\":' > $F | unterminated object",
-    "table      | icons/mapping.json     | echo '[]' > $F      | not a JSON object",
-};
-// Exit status, what the message names, and the arguments.
-const Rows departures{
-    "2 | tarnis-module: --resources | ",
-    "2 | tarnis-module: Unknown option 'what' | --what",
-    "3 | tarnis-module: no such directory: /no/such | --resources /no/such",
-    "3 | tarnis-module: no such directory: /dev/null | --resources /dev/null",
-    "4 | /no/bus | --session --resources /tmp",
-    "5 | tarnis-module: cannot own the bus name Module.Tarnis | --resources /tmp",
-};
 
 // Each element of the named interface in its order, with its attributes.
 QStringList elements(const QByteArray& introspection, const QString& interfaceName)
@@ -121,28 +88,32 @@ private Q_SLOTS:
         }
     }
 
-    void illegalNameOrMissingBusFailsEveryCall_data() { addRows(wrongAddresses); }
+    void illegalNameOrMissingBusFailsEveryCall_data()
+    {
+        addRows("ServiceTest/illegalNameOrMissingBusFailsEveryCall",
+                {"module", "object", "interface", "bus", "message"});
+    }
 
     void illegalNameOrMissingBusFailsEveryCall()
     {
-        const auto [module, object, interfaceName, bus, message] = cells<5>();
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/bus");
-        const auto mode = bus == "system" ? DBusConnectorBase::SystemBus : DBusConnectorBase::SessionBus;
-        const DBusConnectorBase connector(module, object, interfaceName, nullptr, mode);
+        const auto mode = row()["bus"] == "system" ? DBusConnectorBase::SystemBus : DBusConnectorBase::SessionBus;
+        const DBusConnectorBase connector(row()["module"].toString(), row()["object"].toString(),
+                                          row()["interface"].toString(), nullptr, mode);
         QVERIFY(!connector.isDBusInterfaceValid());
-        const QString found = connector.getInvalidDBusInterfaceMessage();
-        QVERIFY2(found.contains(message), qPrintable(found));
+        const QString message = connector.getInvalidDBusInterfaceMessage();
+        QVERIFY2(message.contains(row()["message"].toString()), qPrintable(message));
         LogRecorder log;
         QSignalSpy errors(&connector, &DBusConnectorBase::dBusConnectionError);
         const ErrorContainer error = connector.syncCallHelper("call").getError();
-        QCOMPARE(error.getErrorCode(), ErrorContainer::getDefaultErrorCode());
-        QCOMPARE(error.getErrorMessage(), found);
-        const QString record = "DBusConnectorBase::syncCallHelper: \"" + found + '"';
-        QCOMPARE(log.take().replaceInStrings("\\", "").join(""), record.repeated(2));
+        QCOMPARE(error.getErrorCode(), -1);
+        QCOMPARE(error.getErrorMessage(), message);
+        const QString record = "DBusConnectorBase::syncCallHelper: " + Getter::quoted(message);
+        QCOMPARE(log.take(), QStringList({record, record}));
         QCOMPARE(errors.count(), 1);
     }
 
-    void moduleAnswersWithItsDirectoryAsItIsAtTheTimeUntilSigterm()
+    void moduleAnswersFromTheCurrentFilesUntilSigterm()
     {
         startModule();
         const QString size = "%1 " + directory->filePath("dimensions/%1.ini;");
@@ -157,30 +128,36 @@ private Q_SLOTS:
         LogRecorder log;
         for (const QString name : {".night", "x/../../../etc/passwd", "../\u00FC\u65E5"}) {
             QVERIFY(connectors.icons.getIconResourcesMappingTable(name).isNull());
-            QVERIFY(log.take().join("").contains('"' + name + "\\\" is not the name of a mapping table"));
+            QVERIFY(log.take().join("").contains('"' + name + "\\\" is not a valid mapping table name"));
         }
         module->process().terminate();
         QVERIFY(module->process().waitForFinished(10000));
         QVERIFY(module->process().exitStatus() == QProcess::NormalExit && module->process().exitCode() == 0);
     }
 
-    void moduleAnswersForABadFileWithAnErrorThatNamesIt_data() { addRows(badFiles); }
-
-    void moduleAnswersForABadFileWithAnErrorThatNamesIt()
+    void badFileIsAnsweredWithAnErrorThatNamesIt_data()
     {
-        const auto [unanswered, name, damage, reason] = cells<4>();
+        addRows("ServiceTest/badFileIsAnsweredWithAnErrorThatNamesIt", {"file", "damage", "failing", "reason"});
+    }
+
+    void badFileIsAnsweredWithAnErrorThatNamesIt()
+    {
         startModule();
         QStringList expected = ask();
-        for (const QString& question : unanswered.split(' '))
-            expected[QStringList{"fonts", "colors", "base", "table", "sizes"}.indexOf(question)] = "";
-        shell("F=" + name + "; " + damage);
+        for (int getter = 0; getter < 5; ++getter) {
+            if (rowTexts("failing").contains(getters[getter].method))
+                expected[getter] = "";
+        }
+        const QString file = row()["file"].toString();
+        shell("F=" + file + "; " + row()["damage"].toString());
         LogRecorder log;
         QCOMPARE(ask(), expected);
         const QString record = log.take().value(0);
-        QVERIFY2(record.contains(directory->filePath(name)) && record.contains(reason), qPrintable(record));
+        QVERIFY2(record.contains(directory->filePath(file)), qPrintable(record));
+        QVERIFY2(record.contains(row()["reason"].toString()), qPrintable(record));
     }
 
-    void moduleOffersWhatTheContractsSay()
+    void moduleOffersTheInterfacesOfTheContracts()
     {
         startModule();
         for (const QString object : {"DeviceUiResources", "IconProvider"}) {
@@ -194,29 +171,18 @@ private Q_SLOTS:
         }
     }
 
-    void handlersWithoutAScreenSayIt()
+    void moduleExitsWithAStatusAndAMessage_data()
     {
-        directory.emplace();
-        const QString path = writeFile(directory->filePath("x.ini"), "[G]\nk=16");
-        LogRecorder log;
-        QCOMPARE(TarnisFontHandler(path).getFontPointSize("G", "k"), 12.0);
-        QVERIFY(TarnisElementDimensionHandler({{{1, 1}, path}}).uiElementDimensions().isEmpty());
-        QCOMPARE(
-            log.take().join('\n'),
-            "TarnisFontHandler::TarnisFontHandler: Cannot read pointer to primary screen!\n"
-            "critical TarnisElementDimensionHandler::TarnisElementDimensionHandler: Unable to get primary screen!");
+        addRows("ServiceTest/moduleExitsWithAStatusAndAMessage", {"arguments", "status", "message"});
     }
 
-    void moduleSaysWhyItLeaves_data() { addRows(departures); }
-
-    void moduleSaysWhyItLeaves()
+    void moduleExitsWithAStatusAndAMessage()
     {
-        const auto [status, message, arguments] = cells<3>();
         startModule();
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/bus");
-        const Outcome outcome = run(TARNIS_MODULE, arguments.split(' ', Qt::SkipEmptyParts));
-        QCOMPARE(outcome.exitStatus, status.toInt());
-        QVERIFY2(outcome.errors.contains(message.toUtf8()), outcome.errors);
+        const Outcome outcome = run(TARNIS_MODULE, rowTexts("arguments"));
+        QCOMPARE(outcome.exitStatus, row()["status"].toInt());
+        QVERIFY2(outcome.errors.contains(row()["message"].toString().toUtf8()), outcome.errors);
     }
 };
 

@@ -41,3 +41,15 @@ inline QJsonObject row()
     QFETCH(QJsonObject, row);
     return row;
 }
+
+/// The texts of a field that is an array of them.
+inline QStringList rowTexts(const QString& field)
+{
+    return row()[field].toVariant().toStringList();
+}
+
+/// A map or list as a text that a failed comparison can print.
+inline QString toJson(const QVariant& value)
+{
+    return QString::fromUtf8(QJsonDocument::fromVariant(value).toJson(QJsonDocument::Compact));
+}

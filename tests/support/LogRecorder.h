@@ -8,9 +8,9 @@ struct LogRecorder {
     LogRecorder() { records.clear(); }
     ~LogRecorder() { qInstallMessageHandler(previous); }
 
-    /// The records since the last call, each as `[TYPE ][CATEGORY ]Class::function: text`. The type is left out for a
-    /// warning, the category for "default". A record without file and line, or with a file name that is not relative
-    /// to the repository, says so.
+    /// The records since the last call: `Class::function: text` for the default category, `CATEGORY text` for others,
+    /// both after the type unless it is a warning. A record without a line, or with a file name that is not relative to
+    /// the repository, has its place appended.
     static QStringList take() { return std::exchange(records, QStringList()); }
 
 private:
@@ -21,9 +21,9 @@ private:
         const bool hasPlace = (file.startsWith("TarnisLibrary/") || file.startsWith("Common/")) && context.line > 0;
         const QString category(context.category);
         const QString kind = type == QtWarningMsg ? "" : type == QtCriticalMsg ? "critical " : "other ";
-        records.append(kind + (category == "default" ? "" : category + ' ')
-                       + functionName.match(context.function).captured(1) + ": " + text
-                       + (hasPlace ? "" : " (at " + file + ")"));
+        const QString source =
+            category == "default" ? functionName.match(context.function).captured(1) + ": " : category + ' ';
+        records.append(kind + source + text + (hasPlace ? "" : " (at " + file + ")"));
     }
 
     inline static QStringList records;
