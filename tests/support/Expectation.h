@@ -3,17 +3,25 @@
 #include "tests/support/DBusValue.h"
 #include "tests/support/Getters.h"
 
-/// What a getter gives, and the records that it leaves.
+/// What a getter returns and logs.
 struct Expectation {
     QString result;
     QStringList records;
+
+    bool operator==(const Expectation& other) const
+    {
+        return result == other.result && result.isNull() == other.result.isNull() && records == other.records;
+    }
+
+    /// For a message about a difference.
+    QString text() const { return Getter::quoted(result.left(200)) + ", logged " + Getter::quoted(records.join('\n')); }
 
     static Expectation failure(const Getter& getter, const QString& callError, const QString& recordError)
     {
         return {getter.givesSizes() ? "" : QString(), getter.recordsOfFailure(callError, recordError)};
     }
 
-    /// When the service answers with this variant.
+    /// If the service answers with this variant.
     static Expectation of(const Getter& getter, const DBusValue& variant)
     {
         const DBusValue& record = variant.members.at(0);
@@ -25,7 +33,7 @@ struct Expectation {
         return result.isNull() ? failure(getter, {}, {}) : Expectation{result, {}};
     }
 
-    /// The error that a record is read as; null if it holds a value.
+    /// The message if the record is read as an error; null if it is read as a value.
     static QString errorOf(const DBusValue& record)
     {
         if (record.signature != "(bisv)")
@@ -35,7 +43,7 @@ struct Expectation {
     }
 
 private:
-    // Null for what Qt converts to no string: a byte among the numbers, and all but text and byte arrays of the rest.
+    // Null if Qt does not convert the value to a string. It converts numbers except bytes, text and byte arrays.
     static QString textOf(const DBusValue& value)
     {
         const bool isText =

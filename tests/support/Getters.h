@@ -5,7 +5,7 @@
 
 #include <QDebug>
 
-/// A getter of the connectors: the method that it calls, who logs its failure, and what it is to fetch.
+/// A getter of the connectors: the method that it calls, the function that logs its failure, and what it fetches.
 struct Getter {
     QString method;
     QString function;
@@ -13,7 +13,8 @@ struct Getter {
 
     bool givesSizes() const { return method == "getSupportedScreenSizes"; }
 
-    /// The records of a failed call, of an error in the reply record, or (both null) of a value of another type.
+    /// The log records after a failed call, after an error in the reply record, or, if both are null, after a value of
+    /// the wrong type.
     QStringList recordsOfFailure(const QString& callError, const QString& recordError) const
     {
         QStringList records;
@@ -51,12 +52,12 @@ inline const Getter getters[] = {
      "TarnisDeviceUiResourcesDBusConnector::getSupportedDisplaySizes: ", "supported display sizes"},
 };
 
-/// The connectors, asked by the number of the getter.
+/// Both connectors, with their getters by number.
 struct Connectors {
     const TarnisDeviceUiResourcesDBusConnector resources;
     const TarnisIconProviderDBusConnector icons;
 
-    /// A text, null if there is none; sizes as `WIDTHxHEIGHT PATH;`, one after the other.
+    /// The text, null if there is none; of the sizes `WIDTHxHEIGHT PATH;` each, concatenated.
     QString ask(int getter) const
     {
         switch (getter) {
