@@ -6,13 +6,13 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// How many log records the current input has caused; none of them is shown.
+/// The number of log records that the current input has caused. None of them is printed.
 inline int logRecords = 0;
 
 inline const QtMessageHandler firstHandler =
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++logRecords; });
 
-/// Ends the process when the two differ; libFuzzer then saves the input.
+/// Ends the process if the two differ. libFuzzer then saves the input.
 template <typename Value>
 void requireEqual(const Value& found, const Value& expected, const char* what)
 {

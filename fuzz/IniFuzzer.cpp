@@ -1,4 +1,4 @@
-// IniParser against a naive reading of the same bytes, and against itself on what it read, written out.
+// IniParser, compared with a naive reading of the same bytes, and run again on what it read, written out.
 #include "ResourceFormat/IniParser.h"
 #include "fuzz/Claims.h"
 
@@ -9,7 +9,7 @@
 namespace
 {
 
-// Each group is followed by its entries, each of which is group, key and value: no line holds a line feed.
+// Each group is followed by its entries: group, key and value, separated by line feeds, which no line contains.
 struct Reading {
     QStringList content;
     QVector<int> faults;
@@ -29,19 +29,30 @@ Reading read(const QByteArray& bytes)
     return result;
 }
 
+bool isUtf8(const QByteArray& line)
+{
+    const QByteArray withoutMark = "no byte-order mark " + line;
+    return QString::fromUtf8(withoutMark.constData(), withoutMark.size()).toUtf8() == withoutMark;
+}
+
+QString unquoted(const QString& value)
+{
+    const bool isQuoted = value.size() > 1 && value.startsWith('"') && value.endsWith('"');
+    return isQuoted ? value.mid(1).chopped(1) : value;
+}
+
 Reading readNaively(const QByteArray& bytes)
 {
     Reading result;
-    QStringList groups;
-    QStringList names;
     QMap<QString, QString> values;
+    QMap<QString, QStringList> names;
+    QStringList groups;
     QString group;
     bool isUsable = true;
     const QStringList lines = QString::fromUtf8(bytes.constData(), bytes.size()).split('\n');
     const QList<QByteArray> encodedLines = bytes.split('\n');
     for (int index = 0; index < lines.size(); ++index) {
         const QString line = lines.at(index).trimmed();
-        const QByteArray encoded = "no byte-order mark " + encodedLines.at(index);
         const QString name = group + '\n' + line.section('=', 0, 0).trimmed();
         bool isFault = false;
         if (line.startsWith('[')) {
@@ -53,29 +64,24 @@ Reading readNaively(const QByteArray& bytes)
             const bool isEntry = line.contains('=') && !name.endsWith('\n');
             isFault = !isEntry || (isUsable && values.contains(name));
             if (isEntry && isUsable) {
-                const QString value = line.section('=', 1).trimmed();
-                const bool isQuoted = value.size() > 1 && value.startsWith('"') && value.endsWith('"');
-                values[name] = isQuoted ? value.mid(1).chopped(1) : value;
-                names += name;
+                names[group] += values.contains(name) ? QStringList() : QStringList(name);
+                values[name] = unquoted(line.section('=', 1).trimmed());
                 groups += group;
             }
         }
-        if (QString::fromUtf8(encoded.constData(), encoded.size()).toUtf8() != encoded)
-            result.faults += index + 1;
-        if (isFault)
-            result.faults += index + 1;
+        result.faults += QVector<int>(int(!isUtf8(encodedLines.at(index))) + int(isFault), index + 1);
     }
     groups.removeDuplicates();
-    names.removeDuplicates();
     for (const QString& known : qAsConst(groups)) {
         result.content += known;
-        for (const QString& name : qAsConst(names))
-            result.content += name.startsWith(known + '\n') ? QStringList(name + '\n' + values[name]) : QStringList();
+        for (const QString& name : names.value(known))
+            result.content += name + '\n' + values[name];
     }
     return result;
 }
 
-// The bytes of a character that the end of the file cuts off: one U+FFFD to the parser, several to the naive reading.
+// If the end of the file cuts off a character, the parser replaces it by one U+FFFD, the naive reading each of its
+// bytes.
 QString withShortGaps(const QStringList& content)
 {
     static const QRegularExpression gap("\uFFFD+");
@@ -88,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     const Reading reading = read(bytes);
-    const Reading expected = readNaively(bytes);
+    const Reading expected = NaiveReader().read(bytes);
     requireEqual(withShortGaps(reading.content), withShortGaps(expected.content), "groups and entries");
     requireEqual(reading.faults, expected.faults, "lines with a fault");
 

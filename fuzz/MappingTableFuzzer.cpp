@@ -1,8 +1,6 @@
-// The mapping table against a naive reading of the same text, and against itself on what it read, written out.
-#include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
+// The mapping table, compared with a naive reading of the same text, and read again after being written out.
 #include "fuzz/Claims.h"
-
-#include <QJsonDocument>
+#include "tests/support/IconMap.h"
 
 namespace
 {
@@ -31,18 +29,6 @@ IconMap readNaively(const QString& text, int& faults)
     return icons;
 }
 
-QString write(const IconMap& icons)
-{
-    QVariantMap aliases;
-    for (auto alias = icons.begin(); alias != icons.end(); ++alias) {
-        QVariantMap contexts;
-        for (auto context = alias->begin(); context != alias->end(); ++context)
-            contexts.insert(context.key(), *context);
-        aliases.insert(alias.key(), contexts);
-    }
-    return QString::fromUtf8(QJsonDocument::fromVariant(aliases).toJson());
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
@@ -60,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         if (text.contains(mark, Qt::CaseInsensitive))
             return 0;
     }
-    requireEqual(handler.parseMappingTable(write(icons)), icons, "icons, written and read again");
-    requireEqual(logRecords, faults, "warnings, further ones for what was written included");
+    requireEqual(handler.parseMappingTable(writeMappingTable(icons)), icons, "icons, written and read again");
+    requireEqual(logRecords, faults, "warnings, including those for what was written");
     return 0;
 }

@@ -1,6 +1,7 @@
-// Whatever a service may answer with: written by libdbus, read by Qt, the reply record and the connectors.
+// The answers of a service: written by libdbus, read by Qt, the reply record and the connectors.
 #define QT_LINKED_LIBDBUS
 #include "fuzz/Claims.h"
+#include "tests/support/DBusValueMaker.h"
 #include "tests/support/Expectation.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
@@ -24,7 +25,7 @@ DBusMessage* write(const DBusValue& value)
     return DBusValue::appendTo(dbus_message_new(DBUS_MESSAGE_TYPE_METHOD_CALL), {value});
 }
 
-// Takes the message.
+// Takes over the message.
 QDBusVariant readByQt(DBusMessage* message)
 {
     auto* const reader = new QDBusDemarshaller(0);
@@ -47,7 +48,7 @@ QByteArray bytesOf(DBusMessage* message)
 
 } // namespace
 
-// Qt does not export what its header declares.
+// The header of Qt declares these, but Qt does not export them.
 QDBusArgumentPrivate::~QDBusArgumentPrivate()
 {
     dbus_message_unref(message);
@@ -67,38 +68,36 @@ QDBusMessage QDBusAbstractInterface::doCall(QDBus::CallMode /*mode*/, const QStr
     return QDBusMessage::createMethodCall("Module.Tarnis", "/", "Interface", method).createReply(answer);
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+namespace
 {
-    static const Connectors connectors{};
-    Source source{{data, size}};
-    const DBusValue variant = DBusValueMaker<Source>{source}.answer();
-    const DBusValue& record = variant.members.at(0);
-    const QString error = Expectation::errorOf(record);
-    const DBusValue held = error.isNull() ? record.members.at(3) : DBusValue();
-    if (error.isNull() && held.members.at(0).signature == "h")
-        return 0; // Qt does not close it
 
-    const QDBusVariant content = readByQt(write(variant));
-    DBusReply reply;
-    const auto argument = qvariant_cast<QDBusArgument>(content.variant());
-    argument >> reply;
+void checkRecord(const QVariant& recordReadByQt, const DBusValue& record)
+{
+    const QString error = Expectation::errorOf(record);
     const int code = record.signature == "(bisv)" ? record.members.at(1).basic.toInt() : -1;
+    DBusReply reply;
+    const auto argument = qvariant_cast<QDBusArgument>(recordReadByQt);
+    argument >> reply;
     requireEqual(reply.isError(), !error.isNull(), "is it an error");
     requireEqual(reply.getError().getErrorCode(), reply.isError() ? code : 0, "error code");
     requireEqual(reply.getError().getErrorMessage(), error, "error message");
     requireEqual(reply.getValue().isValid(), error.isNull(), "is there a value");
-    if (error.isNull()) {
-        const bool isArgument = reply.getValue().userType() == qMetaTypeId<QDBusArgument>();
-        const DBusValue& value = held.members.at(0);
-        requireEqual(isArgument, value.isArgument() || value.signature == "as", "is the value held as an argument");
-        QDBusArgument copy;
-        copy << QDBusVariant(reply.getValue());
-        DBusMessage* const message = write(held);
-        requireEqual(bytesOf(QDBusArgumentPrivate::d(copy)->message), bytesOf(message), "value");
-        dbus_message_unref(message);
-    }
+    if (!error.isNull())
+        return;
+    const bool isArgument = reply.getValue().userType() == qMetaTypeId<QDBusArgument>();
+    const DBusValue& variant = record.members.at(3);
+    const DBusValue& value = variant.members.at(0);
+    requireEqual(isArgument, value.isArgument() || value.signature == "as", "is the value passed on as an argument");
+    QDBusArgument copy;
+    copy << QDBusVariant(reply.getValue());
+    DBusMessage* const message = write(variant);
+    requireEqual(bytesOf(QDBusArgumentPrivate::d(copy)->message), bytesOf(message), "value");
+    dbus_message_unref(message);
+}
 
-    answer = QVariant::fromValue(content);
+void checkGetters(const DBusValue& variant)
+{
+    static const Connectors connectors{};
     for (int number = 0; number < 5; ++number) {
         const Expectation expected = Expectation::of(getters[number], variant);
         logRecords = 0;
@@ -107,6 +106,22 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         requireEqual(result.isNull(), expected.result.isNull(), "is there no result");
         requireEqual(logRecords, expected.records.size(), "warnings of a getter");
     }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    Source source{{data, size}};
+    const DBusValue variant = DBusValueMaker<Source>{source}.answer();
+    const DBusValue& record = variant.members.at(0);
+    if (Expectation::errorOf(record).isNull() && record.members.at(3).members.at(0).signature == "h")
+        return 0; // Qt does not close it
+
+    const QDBusVariant content = readByQt(write(variant));
+    checkRecord(content.variant(), record);
+    answer = QVariant::fromValue(content);
+    checkGetters(variant);
     answer = QVariant(); // Qt could not destroy it at the end of the process
     return hasNoBus ? 0 : -1;
 }

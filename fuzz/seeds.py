@@ -25,6 +25,6 @@ for path in resources.rglob("*.ini"):
 for name in list(aliases)[::6]:
     seed("MappingTableFuzzer", name, compact({name: aliases[name]}))
 for index, url in enumerate(list(texts["de"])[::6]):
-    seed("TextCatalogueFuzzer", f"text-{index}", b"\xff".join(compact({url: texts[name].get(url)}) for name in texts))
+    seed("TextCatalogFuzzer", f"text-{index}", b"\xff".join(compact({url: texts[name].get(url)}) for name in texts))
 for number in range(200):
     seed("ReplyFuzzer", f"random-{number}", random.Random(number).randbytes(200))

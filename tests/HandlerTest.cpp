@@ -67,10 +67,7 @@ private Q_SLOTS:
                  "QString getIconPathAsFileUrl(QString,QString); QString getIconPathAsFileUrl(QString)");
     }
 
-    void lookupInQmlGivesTheResultAndTheRecord_data()
-    {
-        addRows("HandlerTest/lookupInQmlGivesTheResultAndTheRecord", {"lookup", "result", "records"});
-    }
+    void lookupInQmlGivesTheResultAndTheRecord_data() { addRows({"lookup", "result", "records"}); }
 
     void lookupInQmlGivesTheResultAndTheRecord()
     {
@@ -129,10 +126,7 @@ private Q_SLOTS:
         QVERIFY(handler.uiElementDimensions().isEmpty());
     }
 
-    void mappingTableKeepsItsGoodEntries_data()
-    {
-        addRows("HandlerTest/mappingTableKeepsItsGoodEntries", {"table", "icons", "records"});
-    }
+    void mappingTableKeepsItsGoodEntries_data() { addRows({"table", "icons", "records"}); }
 
     void mappingTableKeepsItsGoodEntries()
     {

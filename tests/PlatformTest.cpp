@@ -20,10 +20,7 @@ class PlatformTest : public QObject
 private Q_SLOTS:
     void initTestCase() { QDir::setCurrent(directory.path()); }
 
-    void iniReaderFollowsTheGrammar_data()
-    {
-        addRows("PlatformTest/iniReaderFollowsTheGrammar", {"text", "groups", "records"});
-    }
+    void iniReaderFollowsTheGrammar_data() { addRows({"text", "groups", "records"}); }
 
     void iniReaderFollowsTheGrammar()
     {
@@ -67,10 +64,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList("platform.ini Cannot read \"\": The path is empty"));
     }
 
-    void textsFollowTheLanguageAndFallBack_data()
-    {
-        addRows("PlatformTest/textsFollowTheLanguageAndFallBack", {"language", "texts", "records"});
-    }
+    void textsFollowTheLanguageAndFallBack_data() { addRows({"language", "texts", "records"}); }
 
     void textsFollowTheLanguageAndFallBack()
     {

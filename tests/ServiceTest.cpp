@@ -88,11 +88,7 @@ private Q_SLOTS:
         }
     }
 
-    void illegalNameOrMissingBusFailsEveryCall_data()
-    {
-        addRows("ServiceTest/illegalNameOrMissingBusFailsEveryCall",
-                {"module", "object", "interface", "bus", "message"});
-    }
+    void illegalNameOrMissingBusFailsEveryCall_data() { addRows({"module", "object", "interface", "bus", "message"}); }
 
     void illegalNameOrMissingBusFailsEveryCall()
     {
@@ -135,10 +131,7 @@ private Q_SLOTS:
         QVERIFY(module->process().exitStatus() == QProcess::NormalExit && module->process().exitCode() == 0);
     }
 
-    void badFileIsAnsweredWithAnErrorThatNamesIt_data()
-    {
-        addRows("ServiceTest/badFileIsAnsweredWithAnErrorThatNamesIt", {"file", "damage", "failing", "reason"});
-    }
+    void badFileIsAnsweredWithAnErrorThatNamesIt_data() { addRows({"file", "damage", "failing", "reason"}); }
 
     void badFileIsAnsweredWithAnErrorThatNamesIt()
     {
@@ -171,10 +164,7 @@ private Q_SLOTS:
         }
     }
 
-    void moduleExitsWithAStatusAndAMessage_data()
-    {
-        addRows("ServiceTest/moduleExitsWithAStatusAndAMessage", {"arguments", "status", "message"});
-    }
+    void moduleExitsWithAStatusAndAMessage_data() { addRows({"arguments", "status", "message"}); }
 
     void moduleExitsWithAStatusAndAMessage()
     {

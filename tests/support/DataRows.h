@@ -6,12 +6,13 @@
 #include <QJsonObject>
 #include <QtTest>
 
-/// Adds the rows of `tests/data/FILE.json` to a data-driven test: an array of objects, each with a "name" of its own
-/// and exactly the given fields, whose values have the same types in every row. Anything else ends the test program,
-/// so that a misspelled field or a lost file never passes as a test with fewer checks.
-inline void addRows(const QString& file, QStringList fields)
+/// Adds the rows of the file `tests/data/TEST/FUNCTION.json` to a data-driven test: an array of objects, each with a
+/// "name" of its own and exactly the given fields, whose values have the same types in every row. Anything else ends
+/// the test program, so that a misspelled field or a lost file never passes as a test with fewer checks.
+inline void addRows(QStringList fields)
 {
-    QFile data(TEST_DATA "/" + file + ".json");
+    const QString test = QTest::testObject()->metaObject()->className();
+    QFile data(TEST_DATA "/" + test + '/' + QTest::currentTestFunction() + ".json");
     QJsonParseError error{};
     const bool isOpen = data.open(QIODevice::ReadOnly);
     const QJsonArray rows = QJsonDocument::fromJson(data.readAll(), &error).array();

@@ -37,35 +37,30 @@ private:
     void play(const HostileCall& call, DBusMessage* message)
     {
         switch (call.scenario) {
-        case Scenario::AnswersTwice:
-            answer(call, message);
-            break;
         case Scenario::AnswersTooLate:
             QThread::msleep(lateInMilliseconds);
-            break;
+            return answer(call, message);
+        case Scenario::AnswersTwice:
+            answer(call, message);
+            return answer(call, message);
         case Scenario::RefusesWithAnError:
             return send(dbus_message_new_error(message, "Test.Error", "out of order"));
         case Scenario::LeavesTheBusWithoutAnswering:
-            disconnect(bus);
+            leave();
             return connect();
         case Scenario::DiesBeforeAnswering:
             _exit(0);
-        case Scenario::HandsItsNameToASuccessor:
-            return answerAfterASuccessorCame(call, message);
-        case Scenario::Answers:
-            break;
+        case Scenario::HandsItsNameToASuccessor: {
+            HostileService successor{seed, number};
+            successor.connect();
+            answer(call, message);
+            leave();
+            bus = successor.bus;
+            return;
         }
-        answer(call, message);
-    }
-
-    void answerAfterASuccessorCame(const HostileCall& call, DBusMessage* message)
-    {
-        DBusConnection* const predecessor = bus;
-        connect();
-        DBusConnection* const successor = std::exchange(bus, predecessor);
-        answer(call, message);
-        disconnect(predecessor);
-        bus = successor;
+        case Scenario::Answers:
+            return answer(call, message);
+        }
     }
 
     void answer(const HostileCall& call, DBusMessage* message)
@@ -80,9 +75,9 @@ private:
         dbus_message_unref(reply);
     }
 
-    static void disconnect(DBusConnection* connection)
+    void leave()
     {
-        dbus_connection_close(connection);
-        dbus_connection_unref(connection);
+        dbus_connection_close(bus);
+        dbus_connection_unref(bus);
     }
 };

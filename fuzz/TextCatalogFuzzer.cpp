@@ -1,4 +1,5 @@
-// Three languages' files against a naive reading of them. A byte 0xFF, which no text has, ends a file.
+// The files of three languages, compared with a naive reading of them. A byte 0xFF, which no text contains, ends a
+// file.
 #include "Common/TextTools/TextManager.h"
 #include "fuzz/Claims.h"
 
