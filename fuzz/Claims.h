@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDebug>
-#include <QString>
 
 #include <cstdio>
 #include <cstdlib>

@@ -6,7 +6,6 @@ namespace
 {
 
 using IconMap = TarnisIconHandler::IconMap;
-using ContextMap = TarnisIconHandler::ContextMap;
 
 IconMap readNaively(const QString& text, int& faults)
 {
@@ -15,7 +14,7 @@ IconMap readNaively(const QString& text, int& faults)
     faults = document.isObject() ? 0 : 1;
     const QJsonObject aliases = document.object();
     for (auto alias = aliases.begin(); alias != aliases.end(); ++alias) {
-        ContextMap paths;
+        TarnisIconHandler::ContextMap paths;
         faults += alias.value().isObject() ? 0 : 1;
         const QJsonObject contexts = alias.value().toObject();
         for (auto context = contexts.begin(); context != contexts.end(); ++context) {

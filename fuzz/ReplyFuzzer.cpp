@@ -46,31 +46,6 @@ QByteArray bytesOf(DBusMessage* message)
     return bytes;
 }
 
-} // namespace
-
-// The header of Qt declares these, but Qt does not export them.
-QDBusArgumentPrivate::~QDBusArgumentPrivate()
-{
-    dbus_message_unref(message);
-}
-
-QDBusDemarshaller::~QDBusDemarshaller() = default;
-
-// The connectors call these instead of Qt's: there is no bus.
-bool QDBusConnection::isConnected() const
-{
-    return true;
-}
-
-QDBusMessage QDBusAbstractInterface::doCall(QDBus::CallMode /*mode*/, const QString& method,
-                                            const QVariant* /*arguments*/, size_t /*count*/)
-{
-    return QDBusMessage::createMethodCall("Module.Tarnis", "/", "Interface", method).createReply(answer);
-}
-
-namespace
-{
-
 void checkRecord(const QVariant& recordReadByQt, const DBusValue& record)
 {
     const QString error = Expectation::errorOf(record);
@@ -98,10 +73,10 @@ void checkRecord(const QVariant& recordReadByQt, const DBusValue& record)
 void checkGetters(const DBusValue& variant)
 {
     static const Connectors connectors{};
-    for (int number = 0; number < 5; ++number) {
-        const Expectation expected = Expectation::of(getters[number], variant);
+    for (const Getter& getter : getters) {
+        const Expectation expected = Expectation::of(getter, variant);
         logRecords = 0;
-        const QString result = connectors.ask(number);
+        const QString result = getter.ask(connectors);
         requireEqual(result, expected.result, "result of a getter");
         requireEqual(result.isNull(), expected.result.isNull(), "is there no result");
         requireEqual(logRecords, expected.records.size(), "warnings of a getter");
@@ -109,6 +84,26 @@ void checkGetters(const DBusValue& variant)
 }
 
 } // namespace
+
+// The header of Qt declares these, but Qt does not export them.
+QDBusArgumentPrivate::~QDBusArgumentPrivate()
+{
+    dbus_message_unref(message);
+}
+
+QDBusDemarshaller::~QDBusDemarshaller() = default;
+
+// The connectors call these instead of Qt's: there is no bus.
+bool QDBusConnection::isConnected() const
+{
+    return true;
+}
+
+QDBusMessage QDBusAbstractInterface::doCall(QDBus::CallMode /*mode*/, const QString& method,
+                                            const QVariant* /*arguments*/, size_t /*count*/)
+{
+    return QDBusMessage::createMethodCall("Module.Tarnis", "/", "Interface", method).createReply(answer);
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

@@ -2,8 +2,8 @@
 // file.
 #include "Common/TextTools/TextManager.h"
 #include "fuzz/Claims.h"
+#include "tests/support/TestProcess.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -40,10 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     QVector<QMap<QString, QString>> texts;
     int faults = 0;
     for (const QString& filename : filenames) {
-        QFile file(directory.filePath(filename));
         const QByteArray content = contents.value(texts.size());
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(file.fileName()));
+        writeFile(directory.filePath(filename), content);
         texts += readNaively(content, faults);
     }
 

@@ -16,22 +16,22 @@ namespace
 
 constexpr int callCount = 40000;
 
+const QMap<Scenario, QString> callErrors{
+    {Scenario::RefusesWithAnError, "out of order"},
+    {Scenario::LeavesTheBusWithoutAnswering, "Message recipient disconnected from message bus without replying"},
+    {Scenario::DiesBeforeAnswering, "Message recipient disconnected from message bus without replying"},
+    {Scenario::AnswersTooLate,
+     "Did not receive a reply. Possible causes include: the remote application did not send a reply, the message bus "
+     "security policy blocked the reply, the reply timeout expired, or the network connection was broken."},
+};
+
 Expectation expectationOf(const HostileCall& call)
 {
-    const auto failedCall = [&call](const char* error) {
-        return Expectation::failure(getters[call.getter], error, {});
-    };
-    if (call.scenario == Scenario::RefusesWithAnError)
-        return failedCall("out of order");
-    if (call.scenario == Scenario::LeavesTheBusWithoutAnswering || call.scenario == Scenario::DiesBeforeAnswering)
-        return failedCall("Message recipient disconnected from message bus without replying");
-    if (call.scenario == Scenario::AnswersTooLate)
-        return failedCall("Did not receive a reply. Possible causes include: the remote application did not send a "
-                          "reply, the message bus security policy blocked the reply, the reply timeout expired, or the "
-                          "network connection was broken.");
+    if (callErrors.contains(call.scenario))
+        return Expectation::failure(call.getter, callErrors[call.scenario], {});
     if (call.body.isEmpty() || call.body.at(0).signature != "v")
-        return failedCall("Unexpected reply signature");
-    return Expectation::of(getters[call.getter], call.body.at(0));
+        return Expectation::failure(call.getter, "Unexpected reply signature", {});
+    return Expectation::of(call.getter, call.body.at(0));
 }
 
 // Qt appends to "Unexpected reply signature" what it found instead of a variant.
@@ -56,21 +56,10 @@ class HostileTest : public QObject
         QCOMPARE(service->firstLine(), "ready");
     }
 
-    void waitForService() const
-    {
-        QTRY_VERIFY(QDBusConnection::systemBus().interface()->isServiceRegistered("Module.Tarnis").value());
-    }
-
-    const uint seed;
+    const uint seed = QCoreApplication::arguments().value(1, "1").toUInt();
     PrivateBus bus;
     const Connectors connectors{};
     std::optional<TestProcess> service;
-
-public:
-    explicit HostileTest(uint chosenSeed)
-        : seed(chosenSeed)
-    {
-    }
 
 private Q_SLOTS:
     void everyAnswerGivesItsResultAndTheNextCallSucceeds()
@@ -83,19 +72,17 @@ private Q_SLOTS:
         connect(&connectors.icons, &DBusConnectorBase::dBusConnectionError, this, count);
         for (int number = 0; number < callCount; ++number) {
             const HostileCall call(seed, number);
-            const Expectation expected = expectationOf(call);
-            const QString result = connectors.ask(call.getter);
-            const Expectation found{result, withoutFoundSignature(log.take())};
-            QVERIFY2(found == expected,
-                     qPrintable(QString("seed %1, call %2 to %3\nfound %4\nexpected %5")
-                                    .arg(seed)
-                                    .arg(number)
-                                    .arg(getters[call.getter].method, found.text(), expected.text())));
-            QCOMPARE(std::exchange(signalCount, 0), found.records.filter("syncCallHelper").size() / 2);
+            const QString expected = expectationOf(call).text();
+            const QString result = call.getter.ask(connectors);
+            const QStringList records = withoutFoundSignature(log.take());
+            const QString found = Expectation{result, records}.text();
+            const QString place = QString("seed %1, call %2 to %3").arg(seed).arg(number).arg(call.getter.method);
+            QVERIFY2(found == expected, qPrintable(place + "\nfound " + found + "\nexpected " + expected));
+            QCOMPARE(std::exchange(signalCount, 0), records.filter("syncCallHelper").size() / 2);
             if (call.scenario == Scenario::DiesBeforeAnswering)
                 startService(number + 1);
             if (call.scenario == Scenario::LeavesTheBusWithoutAnswering)
-                waitForService();
+                QTRY_VERIFY(QDBusConnection::systemBus().interface()->isServiceRegistered("Module.Tarnis").value());
         }
     }
 };
@@ -107,7 +94,7 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) != "serve") {
-        HostileTest test(arguments.value(1, "1").toUInt());
+        HostileTest test;
         return QTest::qExec(&test, {arguments.at(0)});
     }
     alarm(3600); // ends the service in any case

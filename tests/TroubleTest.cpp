@@ -9,7 +9,6 @@
 #include "tests/support/TestProcess.h"
 
 #include <QGuiApplication>
-#include <QTemporaryDir>
 
 #include <future>
 #include <linux/capability.h>
@@ -17,30 +16,16 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-namespace
-{
-
-// What the commands of the rows are made of. Without IFS, the shell does not split variables into words.
-const QByteArray shellFunctions =
-    "exec 2> /dev/null; set -f; IFS=;"
-    "files() { mkdir $D; printf '[G]\\nk=1\\nl=2\\n' > $D/c.ini; printf '{\"k\": \"1\"}' > $D/en.json; : > $D/i.svg; };"
-    "gone() { umount $D; chmod 700 $D; rm -rf $D; };"
-    "each() { for F in $D/c.ini $D/en.json $D/i.svg; do eval $1; done; };"
-    // Where mounting is refused, a limit and permissions stand in for a full and then read-only file system.
-    "full() { mount --make-rprivate / && mount -t tmpfs -o size=16k none $D || { ulimit -f 16; trap '' XFSZ; };"
-    "files; each 'yes \"; c\" >> $F'; mount -o remount,ro $D || chmod -R a-w $D; };";
-
-} // namespace
-
 class TroubleTest : public QObject
 {
     Q_OBJECT
 
     QTemporaryDir directory;
 
+    // Runs a command, which may use the functions of functions.sh.
     static void shell(const QString& command)
     {
-        QCOMPARE(std::system(shellFunctions + command.toUtf8() + "; true"), 0);
+        QCOMPARE(std::system(". " TEST_DATA "/TroubleTest/functions.sh; " + command.toUtf8() + "; true"), 0);
     }
 
 private Q_SLOTS:

@@ -5,11 +5,30 @@
 
 #include <QDebug>
 
-/// A getter of the connectors: the method that it calls, the function that logs its failure, and what it fetches.
+#include <functional>
+
+/// Both connectors.
+struct Connectors {
+    const TarnisDeviceUiResourcesDBusConnector resources;
+    const TarnisIconProviderDBusConnector icons;
+
+    /// `WIDTHxHEIGHT PATH;` of each size, concatenated.
+    QString sizes() const
+    {
+        QString text = "";
+        for (const auto& [size, path] : resources.getSupportedDisplaySizes())
+            text += QString::number(size.width()) + 'x' + QString::number(size.height()) + ' ' + path + ';';
+        return text;
+    }
+};
+
+/// A getter of the connectors: the method that it calls, the function that logs its failure, what it fetches, and a
+/// call of it, which returns a null text on failure, except for sizes.
 struct Getter {
     QString method;
     QString function;
     QString subject;
+    std::function<QString(const Connectors&)> ask;
 
     bool givesSizes() const { return method == "getSupportedScreenSizes"; }
 
@@ -40,39 +59,14 @@ struct Getter {
 };
 
 inline const Getter getters[] = {
-    {"getFontIniFilePath",
-     "TarnisDeviceUiResourcesDBusConnector::convertDBusReplyToString: ", "path to fonts ini file"},
-    {"getColorIniFilePath",
-     "TarnisDeviceUiResourcesDBusConnector::convertDBusReplyToString: ", "path to colors ini file"},
-    {"getIconResourcesBasePath",
-     "TarnisIconProviderDBusConnector::getIconResourcesBasePath: ", "base path to icon resources"},
-    {"getIconResourcesMappingTable",
-     "TarnisIconProviderDBusConnector::getIconResourcesMappingTable: ", "mapping table"},
-    {"getSupportedScreenSizes",
-     "TarnisDeviceUiResourcesDBusConnector::getSupportedDisplaySizes: ", "supported display sizes"},
-};
-
-/// Both connectors, with their getters by number.
-struct Connectors {
-    const TarnisDeviceUiResourcesDBusConnector resources;
-    const TarnisIconProviderDBusConnector icons;
-
-    /// The text, null if there is none; of the sizes `WIDTHxHEIGHT PATH;` each, concatenated.
-    QString ask(int getter) const
-    {
-        switch (getter) {
-        case 0:
-            return resources.getFontIniFilePath();
-        case 1:
-            return resources.getColorIniFilePath();
-        case 2:
-            return icons.getIconResourcesBasePath();
-        case 3:
-            return icons.getIconResourcesMappingTable("");
-        }
-        QString sizes = "";
-        for (const auto& [size, path] : resources.getSupportedDisplaySizes())
-            sizes += QString::number(size.width()) + 'x' + QString::number(size.height()) + ' ' + path + ';';
-        return sizes;
-    }
+    {"getFontIniFilePath", "TarnisDeviceUiResourcesDBusConnector::convertDBusReplyToString: ", "path to fonts ini file",
+     [](const Connectors& all) { return all.resources.getFontIniFilePath(); }},
+    {"getColorIniFilePath", "TarnisDeviceUiResourcesDBusConnector::convertDBusReplyToString: ",
+     "path to colors ini file", [](const Connectors& all) { return all.resources.getColorIniFilePath(); }},
+    {"getIconResourcesBasePath", "TarnisIconProviderDBusConnector::getIconResourcesBasePath: ",
+     "base path to icon resources", [](const Connectors& all) { return all.icons.getIconResourcesBasePath(); }},
+    {"getIconResourcesMappingTable", "TarnisIconProviderDBusConnector::getIconResourcesMappingTable: ", "mapping table",
+     [](const Connectors& all) { return all.icons.getIconResourcesMappingTable(""); }},
+    {"getSupportedScreenSizes", "TarnisDeviceUiResourcesDBusConnector::getSupportedDisplaySizes: ",
+     "supported display sizes", [](const Connectors& all) { return all.sizes(); }},
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/DBusValueMaker.h"
+#include "tests/support/Getters.h"
 
 #include <array>
 #include <random>
@@ -32,18 +33,11 @@ constexpr int oddScenariosInMadeUpAnswers = 100; // one in so many
 constexpr int sizeOfHugeAnswer = 32 * 1024 * 1024 - 4096; // the largest that the bus lets through
 constexpr unsigned long lateInMilliseconds = 5300;        // the connectors wait for 5000
 
-class Random
-{
-public:
-    Random(uint seed, int number)
-        : engine(seed * 1000003U + static_cast<uint>(number))
-    {
-    }
+struct Random {
+    std::mt19937 engine;
+
     int below(int end) { return static_cast<int>(engine() % static_cast<uint>(end)); }
     qint64 bits() { return static_cast<qint64>((quint64(engine()) << 32U) | engine()); }
-
-private:
-    std::mt19937 engine;
 };
 
 /// One call to the hostile service: the getter that the test calls, and what the service does. Both processes derive it
@@ -52,13 +46,13 @@ class HostileCall
 {
 public:
     HostileCall(uint seed, int number)
-        : random(seed, number)
-        , getter(random.below(5))
+        : random{std::mt19937(seed * 1000003U + static_cast<uint>(number))}
+        , getter(getters[random.below(5)])
     {
         if (hugeAnswers.contain(number))
             body = {make.record({"ay", QByteArray(sizeOfHugeAnswer, 'x'), {}}, false)};
         else if (goodAnswers.contain(number))
-            body = {make.record(make.value(getter == 4 ? "a((ii)s)" : "s"), false)};
+            body = {make.record(make.value(getter.givesSizes() ? "a((ii)s)" : "s"), false)};
         else
             makeUpBody();
         if (lateAnswers.contain(number))
@@ -88,7 +82,7 @@ private:
     DBusValueMaker<Random> make{random};
 
 public:
-    const int getter;
+    const Getter& getter;
     Scenario scenario = Scenario::Answers;
     QVector<DBusValue> body;
 };

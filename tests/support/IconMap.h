@@ -3,7 +3,6 @@
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
 #include <QJsonDocument>
-#include <QVariantMap>
 
 /// The mapping table that these icons are read from.
 inline QString writeMappingTable(const TarnisIconHandler::IconMap& icons)
