@@ -94,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     const Reading reading = read(bytes);
-    const Reading expected = NaiveReader().read(bytes);
+    const Reading expected = readNaively(bytes);
     requireEqual(withShortGaps(reading.content), withShortGaps(expected.content), "groups and entries");
     requireEqual(reading.faults, expected.faults, "lines with a fault");
 
