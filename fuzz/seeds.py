@@ -1,4 +1,4 @@
-"""Makes small seeds of the sample resources: seeds.py RESOURCES CORPUS"""
+"""Writes small seeds made from the sample resources: seeds.py RESOURCES CORPUS"""
 import json
 import pathlib
 import random

@@ -7,10 +7,10 @@
 #include <csignal>
 #include <sys/prctl.h>
 
-/// A child process that does not outlive a test that was killed. Qt forks for a class of its own; for QProcess itself
-/// it makes a system call that the emulator does not know.
+/// A child process that ends when the test does, even if the test is killed. Qt starts the process of a derived class
+/// with fork(), but that of QProcess itself with a system call that the emulator does not know.
 struct Child : QProcess {
-    /// Starts a program. Those of this build are named by their paths; built for another machine, they are emulated.
+    /// Starts a program. Programs of this build are given as paths; they are emulated if built for another machine.
     void launch(const QString& program, const QStringList& arguments)
     {
         QStringList command;
@@ -23,7 +23,7 @@ struct Child : QProcess {
     void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
 };
 
-/// A program that is started, is ready when it has printed its first line, and is killed at the end.
+/// Starts a program and waits for the first line that it prints. Kills it in the end.
 struct TestProcess {
     TestProcess(const QString& program, const QStringList& arguments)
     {
@@ -38,7 +38,7 @@ struct TestProcess {
         child.waitForFinished();
     }
 
-    /// The first line that it printed; empty if there was none within 10 s.
+    /// The first line; empty if none came within 10 s.
     QString firstLine() const { return line; }
     QProcess& process() { return child; }
 
@@ -47,8 +47,8 @@ private:
     QString line;
 };
 
-/// A bus of the test's own, which is the system bus of this process and its children. Qt connects a process to it
-/// once: have one for the whole test.
+/// A bus that is the system bus of this process and its children. Qt connects a process to the system bus only once, so
+/// create one for the whole test.
 struct PrivateBus {
     PrivateBus() { qputenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine().toUtf8()); }
 
@@ -70,7 +70,7 @@ inline Outcome run(const QString& program, const QStringList& arguments)
     return {isNormal ? process.exitCode() : -1, process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-/// Gives the X screen of `DISPLAY` another size.
+/// Resizes the X screen of `DISPLAY`.
 inline bool switchScreen(int width, int height)
 {
     const QString switchTo = "xrandr --newmode m$0 30 $0 $(($0+1)) $(($0+2)) $(($0+3)) $1 $(($1+1)) $(($1+2)) "
@@ -78,7 +78,7 @@ inline bool switchScreen(int width, int height)
     return run("sh", {"-c", switchTo, QString::number(width), QString::number(height)}).exitStatus == 0;
 }
 
-/// Writes a file, and the folders above it; gives its path.
+/// Writes a file and creates its folders. Returns its path.
 inline QString writeFile(const QString& path, const QByteArray& content)
 {
     QDir().mkpath(QFileInfo(path).path());
