@@ -16,7 +16,7 @@ struct DBusValueMaker {
     template <typename List>
     auto oneOf(const List& list)
     {
-        return list[source.below(static_cast<int>(std::size(list)))];
+        return *std::next(std::begin(list), source.below(static_cast<int>(std::size(list))));
     }
 
     QByteArray signature(int levels)
