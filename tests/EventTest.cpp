@@ -38,9 +38,10 @@ class EventTest : public QObject
 
     QTemporaryDir directory;
 
-private Q_SLOTS:
+public:
     static void initMain() { qputenv("QT_QPA_PLATFORM", "minimal"); }
 
+private Q_SLOTS:
     // Dimension file N holds the number N.
     void initTestCase()
     {
