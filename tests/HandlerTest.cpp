@@ -39,8 +39,7 @@ class HandlerTest : public QObject
     QTemporaryDir directory;
     const QString mappingTable = R"({
         "arrow": {"defaultContext": "day/a b%.svg", "nightMode": "night/a.svg", "gone": "gone.svg", "folder": "day"},
-        "bad": {"x": 1},
-        "lonely": {"nightMode": "night/a.svg"}
+        "bad": {"x": 1}, "lonely": {"nightMode": "night/a.svg"}
     })";
 
 private Q_SLOTS:
@@ -94,7 +93,7 @@ private Q_SLOTS:
 
     void dimensionsFollowTheScreen()
     {
-        writeFile("low", "t=1\n[B]\nh=-48\na=wide\nb=1.5\nc=0x10\nd=\ne=4 px\nf=2147483648\n[a/b]\nc=1\n[a]\nb/c=2");
+        writeFile("low", "t=1\n[B]\nh=-48\na=wide\nb=1.5\nc=0x10\ng=\ne=4 px\nf=2147483648\n[a/b]\nc=1\n[a]\nb/c=2");
         writeFile("high", "[Button]\nheight=64\n");
         LogRecorder log;
         QVERIFY(TarnisElementDimensionHandler({}).uiElementDimensions().isEmpty());
@@ -107,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 0);
         QVERIFY(switchScreen(800, 480));
         QTRY_COMPARE(changed.count(), 1);
-        const QVariantMap expected{{"/t", 1},  {"B/a", 0}, {"B/b", 0},   {"B/c", 0},  {"B/d", 0},
+        const QVariantMap expected{{"/t", 1},  {"B/a", 0}, {"B/b", 0},   {"B/c", 0},  {"B/g", 0},
                                    {"B/e", 0}, {"B/f", 0}, {"B/h", -48}, {"a/b/c", 2}};
         QCOMPARE(toJson(handler.property("uiElementDimensions")), toJson(expected));
         handler.onScreenGeometryChanged({0, 0, 3000, 100});
