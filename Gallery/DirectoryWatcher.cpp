@@ -7,6 +7,9 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
+namespace Gallery
+{
+
 DirectoryWatcher::DirectoryWatcher() = default;
 
 DirectoryWatcher::~DirectoryWatcher()
@@ -44,3 +47,5 @@ void DirectoryWatcher::readEvents()
     while (::read(descriptor, events, sizeof(events)) > 0) { }
     Q_EMIT changed();
 }
+
+} // namespace Gallery

@@ -4,8 +4,11 @@
 
 class QSocketNotifier;
 
-/// Tells when a file below a directory was written, replaced, renamed or removed. Qt's own watcher would need a watch
-/// for each of thousands of files, and loses those that an editor replaces.
+namespace Gallery
+{
+
+/// Reports changes of the files below a directory. Qt's own watcher needs a watch for each of thousands of files and
+/// loses the files that an editor replaces.
 class DirectoryWatcher : public QObject
 {
     Q_OBJECT
@@ -14,10 +17,11 @@ public:
     DirectoryWatcher();
     ~DirectoryWatcher() override;
 
-    /// Watches this directory and those below it, and none that it watched before.
+    /// Watches this directory and its subdirectories instead of those that it watched before.
     void watch(const QString& directory);
 
 Q_SIGNALS:
+    /// A file was written, replaced, renamed or removed.
     void changed();
 
 private:
@@ -27,3 +31,5 @@ private:
     int descriptor = -1;
     QSocketNotifier* notifier = nullptr; // child of this object
 };
+
+} // namespace Gallery

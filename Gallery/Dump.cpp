@@ -1,10 +1,14 @@
 #include "Gallery/Dump.h"
 
-#include "Gallery/Catalogue.h"
+#include "Gallery/Catalog.h"
+#include "Gallery/Entry.h"
 #include "Gallery/UiResources.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+
+namespace Gallery
+{
 
 namespace
 {
@@ -16,33 +20,27 @@ void insertBelow(QJsonObject& object, const QString& name, const QString& subnam
     object.insert(name, members);
 }
 
-QString member(const QVariant& entry, const char* name)
-{
-    return entry.toMap().value(QLatin1String(name)).toString();
-}
-
 } // namespace
 
-QByteArray dump(const UiResources& resources, const Catalogue& catalogue)
+QByteArray dump(const UiResources& resources, const Catalog& catalog)
 {
     QJsonObject colors;
-    for (const QVariant& entry : catalogue.colors(QString())) {
-        const QString group = member(entry, "group");
-        const QString key = member(entry, "key");
-        insertBelow(colors, group, key, resources.colors()->getColor(group, key));
+    for (const QVariant& variant : catalog.colors(QString())) {
+        const auto entry = variant.value<Entry>();
+        insertBelow(colors, entry.group, entry.key, resources.colors()->getColor(entry.group, entry.key));
     }
     QJsonObject families;
     QJsonObject sizes;
-    for (const QVariant& entry : catalogue.fonts(QString())) {
-        const QString group = member(entry, "group");
-        const QString key = member(entry, "key");
-        if (!families.contains(group))
-            families.insert(group, resources.fonts()->getFontFamily(group));
-        insertBelow(sizes, group, key, resources.fonts()->getFontPointSize(group, key));
+    for (const QVariant& variant : catalog.fonts(QString())) {
+        const auto entry = variant.value<Entry>();
+        if (!families.contains(entry.group))
+            families.insert(entry.group, resources.fonts()->getFontFamily(entry.group));
+        insertBelow(sizes, entry.group, entry.key, resources.fonts()->getFontPointSize(entry.group, entry.key));
     }
     QJsonObject icons;
-    for (const QString& alias : catalogue.icons(QString())) {
-        for (const QString& context : catalogue.property("contexts").toStringList())
+    const QStringList contexts = catalog.contexts();
+    for (const QString& alias : catalog.icons(QString())) {
+        for (const QString& context : contexts)
             insertBelow(icons, alias, context, resources.icons()->getIconPathAsFileUrl(alias, context));
     }
     const QJsonObject answers{
@@ -55,3 +53,5 @@ QByteArray dump(const UiResources& resources, const Catalogue& catalogue)
     };
     return QJsonDocument(answers).toJson();
 }
+
+} // namespace Gallery

@@ -2,8 +2,13 @@
 
 #include <QByteArray>
 
-class Catalogue;
+namespace Gallery
+{
+
+class Catalog;
 class UiResources;
 
 /// Every lookup of the pages with its answer, as indented JSON.
-QByteArray dump(const UiResources& resources, const Catalogue& catalogue);
+QByteArray dump(const UiResources& resources, const Catalog& catalog);
+
+} // namespace Gallery

@@ -4,6 +4,9 @@
 
 #include <algorithm>
 
+namespace Gallery
+{
+
 namespace
 {
 
@@ -20,7 +23,7 @@ bool isOurs(const QMessageLogContext& context)
 
 MessageLog::MessageLog()
 {
-    // Queued: a lookup within a binding may log, and the page that shows the log must not change under it.
+    // Queued, because a binding may cause a log record, and the Log page must not change while it is evaluated.
     connect(this, &MessageLog::recorded, this, &MessageLog::append, Qt::QueuedConnection);
     current = this;
     previousHandler = qInstallMessageHandler(handle);
@@ -30,6 +33,11 @@ MessageLog::~MessageLog()
 {
     qInstallMessageHandler(previousHandler);
     current = nullptr;
+}
+
+QVariantList MessageLog::records() const
+{
+    return recordMaps;
 }
 
 QStringList MessageLog::takeNew()
@@ -55,14 +63,16 @@ void MessageLog::handle(QtMsgType type, const QMessageLogContext& context, const
 void MessageLog::append(const QString& text)
 {
     const auto sameText = [&](const QVariant& record) { return record.toMap().value(QStringLiteral("text")) == text; };
-    const auto known = std::find_if(records.begin(), records.end(), sameText);
+    const auto known = std::find_if(recordMaps.begin(), recordMaps.end(), sameText);
     int count = 1;
-    if (known != records.end()) {
+    if (known != recordMaps.end()) {
         count += known->toMap().value(QStringLiteral("count")).toInt();
-        records.erase(known);
+        recordMaps.erase(known);
     }
-    records.prepend(QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("count"), count}});
-    if (records.size() > mostRecords)
-        records.removeLast();
+    recordMaps.prepend(QVariantMap{{QStringLiteral("text"), text}, {QStringLiteral("count"), count}});
+    if (recordMaps.size() > mostRecords)
+        recordMaps.removeLast();
     Q_EMIT changed();
 }
+
+} // namespace Gallery

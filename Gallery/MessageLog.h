@@ -6,20 +6,25 @@
 #include <QVariantList>
 #include <QtGlobal>
 
-/// Keeps the records of the library and of the platform, newest first, and passes every record of the message log on
-/// to the handler that was there before. The QML singleton `Log` of the module `Tarnis`. There can be one at a time.
+namespace Gallery
+{
+
+/// Keeps the log records of the library and of the platform, the newest first. All log records are passed on to the
+/// previous message handler. The QML singleton `Log` of the module `Tarnis`. Only one may exist at a time.
 class MessageLog : public QObject
 {
     Q_OBJECT
 
     /// Maps with `text` and `count`.
-    Q_PROPERTY(QVariantList records MEMBER records NOTIFY changed)
+    Q_PROPERTY(QVariantList records READ records NOTIFY changed)
 
 public:
     MessageLog();
     ~MessageLog() override;
 
-    /// The texts logged since the last call, each once.
+    QVariantList records() const;
+
+    /// The texts logged since the last call, without duplicates.
     QStringList takeNew();
 
 Q_SIGNALS:
@@ -30,7 +35,9 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
     void append(const QString& text);
 
-    QVariantList records;
+    QVariantList recordMaps;
     QMutex mutex; // any thread may log
     QStringList newTexts;
 };
+
+} // namespace Gallery

@@ -1,23 +1,60 @@
 #include "Gallery/Options.h"
 
-#include "Gallery/Catalogue.h"
-#include "Gallery/GalleryView.h"
-#include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
+#include "Gallery/Session.h"
 
 #include <QCommandLineParser>
 
 #include <algorithm>
 #include <iterator>
 
+namespace Gallery
+{
+
 namespace
 {
 
+struct Parser : QCommandLineParser {
+    Parser()
+    {
+        setApplicationDescription(QStringLiteral(
+            "Shows the resources that the service Module.Tarnis on the system bus gives to a device's front end, and "
+            "follows the changes of their files.\n\n"
+            "Exit status: 0 success; 1 the service, the display or a lookup failed; 2 wrong usage."));
+        addOptions({language, context, display, page, screenshot, screenshotAll, dump});
+    }
+
+    const QString name = QStringLiteral("NAME");
+    const QCommandLineOption language{QStringLiteral("language"), QStringLiteral("Text language."), name,
+                                      QStringLiteral("en")};
+    const QCommandLineOption context{QStringLiteral("context"), QStringLiteral("Icon context."), name,
+                                     TarnisIconHandler::defaultContextPathKey};
+    const QCommandLineOption display{
+        QStringLiteral("display"),
+        QStringLiteral("Supported display size to use instead of the one nearest to the screen."),
+        QStringLiteral("WxH")};
+    const QCommandLineOption page{QStringLiteral("page"), QStringLiteral("First page to show."), name,
+                                  QStringLiteral("Device")};
+    const QCommandLineOption screenshot{QStringLiteral("screenshot"),
+                                        QStringLiteral("Write a picture of the page and exit."),
+                                        QStringLiteral("FILE.png")};
+    const QCommandLineOption screenshotAll{
+        QStringLiteral("screenshot-all"),
+        QStringLiteral("Write every page in every display size and language as PAGE-WxH-LANGUAGE.png and exit."),
+        QStringLiteral("DIR")};
+    const QCommandLineOption dump{
+        QStringLiteral("dump"),
+        QStringLiteral("Print every lookup with its answer as JSON and exit. Needs no display: unless QT_QPA_PLATFORM "
+                       "is set, the screen is one of 240x320 pixels and 96 dots per inch.")};
+    const QCommandLineOption help = addHelpOption();
+    const QCommandLineOption version = addVersionOption();
+};
+
 QString unknown(const char* what, const QString& value, const QStringList& known)
 {
-    // Without any known value the service is not there, which is said elsewhere.
+    // Nothing is known if the service cannot be reached, which is reported elsewhere.
     if (known.isEmpty() || known.contains(value))
         return QString();
-    return QStringLiteral("unknown %1 \"%2\"; there are: %3")
+    return QStringLiteral("unknown %1 \"%2\"; use one of: %3")
         .arg(QLatin1String(what), value, known.join(QStringLiteral(", ")));
 }
 
@@ -36,65 +73,37 @@ QString Options::parse(int argc, char* argv[])
     QStringList arguments;
     std::transform(argv, argv + argc, std::back_inserter(arguments),
                    [](const char* argument) { return QString::fromLocal8Bit(argument); });
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Shows what a device's front end would be given by the service Module.Tarnis on the system bus, and follows "
-        "the files of its resources.\n\n"
-        "Exit status: 0 success; 1 the service, the display or a lookup failed; 2 wrong usage."));
-    const QString name = QStringLiteral("NAME");
-    const QCommandLineOption languageOption(QStringLiteral("language"), QStringLiteral("The language of the texts."),
-                                            name, QStringLiteral("en"));
-    const QCommandLineOption contextOption(QStringLiteral("context"), QStringLiteral("The context of the icons."), name,
-                                           TarnisIconHandler::defaultContextPathKey);
-    const QCommandLineOption displayOption(QStringLiteral("display"),
-                                           QStringLiteral("A supported display size, instead of the one nearest to the "
-                                                          "screen."),
-                                           QStringLiteral("WxH"));
-    const QCommandLineOption pageOption(QStringLiteral("page"), QStringLiteral("The page to begin with."), name,
-                                        QStringLiteral("Device"));
-    const QCommandLineOption screenshotOption(QStringLiteral("screenshot"),
-                                              QStringLiteral("Draw the page, write its picture and leave."),
-                                              QStringLiteral("FILE.png"));
-    const QCommandLineOption allOption(QStringLiteral("screenshot-all"),
-                                       QStringLiteral("Write every page in every display size and language as "
-                                                      "PAGE-WxH-LANGUAGE.png and leave."),
-                                       QStringLiteral("DIR"));
-    const QCommandLineOption dumpOption(QStringLiteral("dump"),
-                                        QStringLiteral("Print every lookup with its answer as JSON and leave. Needs no "
-                                                       "display: unless QT_QPA_PLATFORM names another, the screen is "
-                                                       "one of 240x320 pixels and 96 dots per inch."));
-    parser.addOptions(
-        {languageOption, contextOption, displayOption, pageOption, screenshotOption, allOption, dumpOption});
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    Parser parser;
     if (!parser.parse(arguments))
         return parser.errorText();
-    if (parser.isSet(help))
+    if (parser.isSet(parser.help))
         parser.showHelp();
-    if (parser.isSet(version))
+    if (parser.isSet(parser.version))
         parser.showVersion();
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
-    language = parser.value(languageOption);
-    context = parser.value(contextOption);
-    display = parser.value(displayOption);
-    page = parser.value(pageOption);
-    screenshot = parser.value(screenshotOption);
-    screenshotDirectory = parser.value(allOption);
-    isDump = parser.isSet(dumpOption);
+    language = parser.value(parser.language);
+    context = parser.value(parser.context);
+    display = parser.value(parser.display);
+    page = parser.value(parser.page);
+    screenshot = parser.value(parser.screenshot);
+    screenshotDirectory = parser.value(parser.screenshotAll);
+    isDump = parser.isSet(parser.dump);
     return QString();
 }
 
-QString Options::check(const GalleryView& view, const Catalogue& catalogue) const
+QString Options::check(const Session& session) const
 {
-    const QString wrongPage = unknown("page", page, view.pages);
-    const QString wrongLanguage = unknown("language", language, catalogue.property("languages").toStringList());
-    const QString wrongContext = unknown("context", context, catalogue.property("contexts").toStringList());
-    const QString wrongDisplay =
-        display.isEmpty() ? QString() : unknown("display size", display, catalogue.property("displays").toStringList());
+    const Catalog& catalog = session.catalog;
+    const QString wrongPage = unknown("page", page, session.view.pages());
+    const QString wrongLanguage = unknown("language", language, catalog.languages());
+    const QString wrongContext = unknown("context", context, catalog.contexts());
+    const QString wrongDisplay = display.isEmpty() ? QString() : unknown("display size", display, catalog.displays());
     for (const QString& message : {wrongPage, wrongLanguage, wrongContext, wrongDisplay}) {
         if (!message.isEmpty())
             return message;
     }
     return QString();
 }
+
+} // namespace Gallery

@@ -2,19 +2,22 @@
 
 #include <QString>
 
-class Catalogue;
-class GalleryView;
+namespace Gallery
+{
+
+struct Session;
 
 /// The command line of the gallery.
 struct Options {
-    /// Whether the arguments ask for something that can be done without a display. To be asked before Qt starts.
+    /// Whether the arguments ask for something that needs no display. Call it before Qt starts.
     static bool needsNoDisplay(int argc, char* argv[]);
 
-    /// What is wrong with the arguments, as a sentence; null if nothing is. Prints and leaves for --help, --version.
+    /// Returns what is wrong with the arguments; a null string if nothing is. Ends the process for --help and
+    /// --version.
     QString parse(int argc, char* argv[]);
 
-    /// Which value is unknown to the resources, as a sentence that lists those there are; null if none is.
-    QString check(const GalleryView& view, const Catalogue& catalogue) const;
+    /// Returns which value is not known in the session, and the known ones; a null string if all are known.
+    QString check(const Session& session) const;
 
     QString language;
     QString context;
@@ -24,3 +27,5 @@ struct Options {
     QString screenshotDirectory;
     bool isDump = false;
 };
+
+} // namespace Gallery

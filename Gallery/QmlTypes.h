@@ -4,12 +4,15 @@
 
 #include <QtQml>
 
-// What tools that read QML are told of the module Tarnis: only what every host offers, and nothing of the gallery's
-// own. No program is compiled with this file.
+// Describes the module Tarnis to tools that read QML: only what every host offers, nothing of the gallery's own. This
+// file is not compiled into any program.
+
+namespace Gallery
+{
 
 struct QmlUi {
     Q_GADGET
-    QML_FOREIGN(UiResources)
+    QML_FOREIGN(Gallery::UiResources)
     QML_NAMED_ELEMENT(Ui)
     QML_SINGLETON
 };
@@ -43,3 +46,5 @@ struct QmlIconHandler {
     QML_FOREIGN(TarnisIconHandler)
     QML_ANONYMOUS
 };
+
+} // namespace Gallery

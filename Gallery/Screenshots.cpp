@@ -1,7 +1,7 @@
 #include "Gallery/Screenshots.h"
 
-#include "Gallery/Catalogue.h"
-#include "Gallery/GalleryView.h"
+#include "Gallery/Catalog.h"
+#include "Gallery/View.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -11,11 +11,14 @@
 
 #include <cstdio>
 
+namespace Gallery
+{
+
 namespace
 {
 
 constexpr int mostMilliseconds = 10000;
-constexpr int settleMilliseconds = 40; // for the window system to resize, and the views to lay out
+constexpr int settleMilliseconds = 40; // time to resize the window and to lay out its items
 
 void showProgress(int done, int all)
 {
@@ -26,9 +29,9 @@ void showProgress(int done, int all)
 
 } // namespace
 
-Screenshots::Screenshots(QQuickWindow& window, GalleryView& view)
-    : window(window)
-    , view(view)
+Screenshots::Screenshots(QQuickWindow& quickWindow, View& galleryView)
+    : window(quickWindow)
+    , view(galleryView)
 {
 }
 
@@ -44,19 +47,19 @@ bool Screenshots::take(const QString& path)
     return window.isExposed() && window.grabWindow().save(path);
 }
 
-bool Screenshots::takeAll(const QString& directory, const Catalogue& catalogue)
+bool Screenshots::takeAll(const QString& directory, const Catalog& catalog)
 {
-    const QStringList displays = catalogue.property("displays").toStringList();
-    const QStringList languages = catalogue.property("languages").toStringList();
+    const QStringList displays = catalog.displays();
+    const QStringList languages = catalog.languages();
     QDir().mkpath(directory);
-    const int all = view.pages.size() * displays.size() * languages.size();
+    const int all = view.pages().size() * displays.size() * languages.size();
     int done = 0;
     for (const QString& display : displays) {
         view.setDisplay(display);
         for (const QString& language : languages) {
             view.setLanguage(language);
-            for (const QString& page : view.pages) {
-                view.setProperty("page", page);
+            for (const QString& page : view.pages()) {
+                view.setPage(page);
                 const QString name = QStringLiteral("%1-%2-%3.png").arg(page, display, language);
                 if (!take(QDir(directory).filePath(name)))
                     return false;
@@ -66,3 +69,5 @@ bool Screenshots::takeAll(const QString& directory, const Catalogue& catalogue)
     }
     return true;
 }
+
+} // namespace Gallery

@@ -2,24 +2,30 @@
 
 #include <QString>
 
-class Catalogue;
-class GalleryView;
 class QQuickWindow;
+
+namespace Gallery
+{
+
+class Catalog;
+class View;
 
 /// Takes pictures of the gallery's window.
 class Screenshots
 {
 public:
-    Screenshots(QQuickWindow& window, GalleryView& view);
+    Screenshots(QQuickWindow& quickWindow, View& galleryView);
 
-    /// The page as it stands, as a PNG file. Waits 10 s at the most for the window to be drawn.
+    /// Writes the current page as a PNG file. Waits at most 10 s for the window to be drawn.
     bool take(const QString& path);
 
-    /// Every page in every display size and language of the catalogue as `PAGE-WxH-LANGUAGE.png`, with a progress bar
-    /// on stderr. Stops at the first picture that cannot be written.
-    bool takeAll(const QString& directory, const Catalogue& catalogue);
+    /// Writes every page in every display size and language of the catalog as `PAGE-WxH-LANGUAGE.png`, with a progress
+    /// bar on stderr. Stops at the first picture that cannot be written.
+    bool takeAll(const QString& directory, const Catalog& catalog);
 
 private:
     QQuickWindow& window;
-    GalleryView& view;
+    View& view;
 };
+
+} // namespace Gallery

@@ -1,48 +1,25 @@
 #include "Gallery/UiResources.h"
 
-#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
-#include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
+#include "ResourceFormat/Directory.h"
 
-#include <QFileInfo>
-#include <QtQml>
+namespace Gallery
+{
 
 namespace
 {
 
-ServiceAnswers askService()
-{
-    ServiceAnswers answers;
-    const TarnisDeviceUiResourcesDBusConnector deviceUiResources;
-    const TarnisIconProviderDBusConnector iconProvider;
-    const auto noteFailure = [&answers] { answers.isReached = false; };
-    QObject::connect(&deviceUiResources, &DBusConnectorBase::dBusConnectionError, noteFailure);
-    QObject::connect(&iconProvider, &DBusConnectorBase::dBusConnectionError, noteFailure);
-    answers.colorIniFilePath = deviceUiResources.getColorIniFilePath();
-    answers.fontIniFilePath = deviceUiResources.getFontIniFilePath();
-    answers.displaySizes = deviceUiResources.getSupportedDisplaySizes();
-    answers.iconBasePath = iconProvider.getIconResourcesBasePath();
-    answers.iconMappingTable = iconProvider.getIconResourcesMappingTable(QString());
-    return answers;
-}
-
-QString directoryOf(const ServiceAnswers& answers)
-{
-    const QString path = answers.colorIniFilePath.isEmpty() ? answers.iconBasePath : answers.colorIniFilePath;
-    return path.isEmpty() ? QString() : QFileInfo(path).absolutePath();
-}
-
-// The catalogue of texts is the host's own. This one finds it beside the colours.
+// The service does not publish the texts: a host finds them itself, here beside the colors.
 QString textDirectory(const ServiceAnswers& answers)
 {
-    const QString directory = directoryOf(answers);
-    return directory.isEmpty() ? QString() : directory + QStringLiteral("/texts");
+    const QString directory = answers.directory();
+    return directory.isEmpty() ? QString() : ResourceFormat::Directory(directory).textFolder();
 }
 
-QList<QPair<QSize, QString>> onlyDisplay(const QList<QPair<QSize, QString>>& displaySizes, const QSize& display)
+QList<QPair<QSize, QString>> onlyDisplay(const QList<QPair<QSize, QString>>& displaySizes, const QSize& size)
 {
     QList<QPair<QSize, QString>> only;
     for (const auto& displaySize : displaySizes) {
-        if (!display.isValid() || displaySize.first == display)
+        if (!size.isValid() || displaySize.first == size)
             only.append(displaySize);
     }
     return only;
@@ -51,12 +28,12 @@ QList<QPair<QSize, QString>> onlyDisplay(const QList<QPair<QSize, QString>>& dis
 } // namespace
 
 struct UiResources::Handlers {
-    Handlers(const ServiceAnswers& serviceAnswers, const QString& language, const QSize& display)
+    Handlers(const ServiceAnswers& serviceAnswers, const QString& language, const QSize& displaySize)
         : answers(serviceAnswers)
         , textManager(textDirectory(answers), language)
         , colors(answers.colorIniFilePath)
         , fonts(answers.fontIniFilePath)
-        , dimensions(std::make_unique<TarnisElementDimensionHandler>(onlyDisplay(answers.displaySizes, display)))
+        , dimensions(std::make_unique<TarnisElementDimensionHandler>(onlyDisplay(answers.displaySizes, displaySize)))
         , icons(answers.iconBasePath, answers.iconMappingTable)
         , texts(textManager)
     {
@@ -72,23 +49,18 @@ struct UiResources::Handlers {
 };
 
 UiResources::UiResources(const QString& language)
-    : handlers(std::make_unique<Handlers>(askService(), language, display))
+    : handlers(std::make_unique<Handlers>(ServiceAnswers::ask(), language, onlyDisplaySize))
 {
 }
 
 UiResources::~UiResources() = default;
 
-void UiResources::publish()
-{
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Ui", this);
-}
-
 bool UiResources::reload(const std::function<bool(const ServiceAnswers&)>& accept)
 {
-    auto fresh = std::make_unique<Handlers>(askService(), textManager().getLanguageName(), display);
+    auto fresh = std::make_unique<Handlers>(ServiceAnswers::ask(), textManager().getLanguageName(), onlyDisplaySize);
     if (!accept(fresh->answers))
         return false;
-    handlers.swap(fresh); // QML lets go of the old handlers when it hears of the new ones
+    handlers.swap(fresh); // the old handlers live until QML has taken the new ones
     Q_EMIT reloaded();
     return true;
 }
@@ -98,9 +70,14 @@ void UiResources::setLanguage(const QString& name)
     handlers->textManager.setLanguage(name);
 }
 
-void UiResources::setDisplay(const QSize& size)
+QSize UiResources::displaySize() const
 {
-    display = size;
+    return onlyDisplaySize;
+}
+
+void UiResources::setDisplaySize(const QSize& size)
+{
+    onlyDisplaySize = size;
     auto fresh = std::make_unique<TarnisElementDimensionHandler>(onlyDisplay(handlers->answers.displaySizes, size));
     handlers->dimensions.swap(fresh);
     Q_EMIT reloaded();
@@ -141,7 +118,4 @@ const TextManager& UiResources::textManager() const
     return handlers->textManager;
 }
 
-QString UiResources::directory() const
-{
-    return directoryOf(handlers->answers);
-}
+} // namespace Gallery

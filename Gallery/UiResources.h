@@ -1,32 +1,25 @@
 #pragma once
 
+#include "Common/TextTools/TextManager.h"
+#include "Gallery/ServiceAnswers.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisTextHandler.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
-#include <QList>
 #include <QObject>
-#include <QPair>
 #include <QSize>
 #include <QString>
 
 #include <functional>
 #include <memory>
 
-/// What the service says of its resources. No handler asks it anything later.
-struct ServiceAnswers {
-    QString colorIniFilePath;
-    QString fontIniFilePath;
-    QList<QPair<QSize, QString>> displaySizes;
-    QString iconBasePath;
-    QString iconMappingTable;
-    bool isReached = true;
-};
+namespace Gallery
+{
 
-/// The library wired up: asks the service where the resources lie, builds the handlers with its answers and offers
-/// them to QML as the singleton `Ui` of the module `Tarnis`. A host of your own may begin as a copy of this class.
+/// The handlers of the library, built with the service's answers: the QML singleton `Ui` of the module `Tarnis`. Copy
+/// this class as a starting point for your own host.
 class UiResources : public QObject
 {
     Q_OBJECT
@@ -38,20 +31,19 @@ class UiResources : public QObject
     Q_PROPERTY(TarnisIconHandler* icons READ icons NOTIFY reloaded)
 
 public:
-    /// Asks the service: five D-Bus calls of 5 s at the most.
+    /// Asks the service; see ServiceAnswers::ask().
     explicit UiResources(const QString& language);
     ~UiResources() override;
 
-    /// Makes the handlers known to every QML engine of the process.
-    void publish();
-
-    /// Asks the service again and replaces every handler, unless `accept`, called in between, refuses the new ones.
+    /// Asks the service again and replaces every handler if `accept` returns true. `accept` is called when the new
+    /// handlers have read their files.
     bool reload(const std::function<bool(const ServiceAnswers&)>& accept);
 
     void setLanguage(const QString& name);
 
-    /// As if the service supported this display only; an invalid size means all that it supports.
-    void setDisplay(const QSize& size);
+    /// The only display size that the dimensions are taken from; invalid, as initially, for all supported ones.
+    QSize displaySize() const;
+    void setDisplaySize(const QSize& size);
 
     TarnisColorHandler* colors() const;
     TarnisFontHandler* fonts() const;
@@ -62,15 +54,14 @@ public:
     const ServiceAnswers& answers() const;
     const TextManager& textManager() const;
 
-    /// The directory that holds colours, icons and texts; null when the service named none of its files.
-    QString directory() const;
-
 Q_SIGNALS:
     void reloaded();
 
 private:
     struct Handlers;
 
-    QSize display;
+    QSize onlyDisplaySize;
     std::unique_ptr<Handlers> handlers;
 };
+
+} // namespace Gallery

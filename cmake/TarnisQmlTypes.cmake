@@ -1,4 +1,5 @@
-# The types of the QML module Tarnis, for Qt Creator and qmllint, from the meta-objects of these headers.
+# Makes the type description of the QML module Tarnis, for Qt Creator and qmllint, from the meta-objects of these
+# headers.
 set(headers Gallery/QmlTypes.h Gallery/UiResources.h
     TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h
     TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h
@@ -21,10 +22,12 @@ foreach(header IN LISTS headers)
     list(APPEND descriptions ${output}.json)
 endforeach()
 
-# Qt 6's readers want a revision that holds the major version, dependencies in the qmldir file, and no type to look up
-# the keys of a map in.
+# The description fits every host, so it does not name the gallery's namespace. The readers of Qt 6 expect the major
+# version in each revision and the dependencies in the qmldir file, and they would look up keys of a QVariantMap in the
+# type of that name.
 add_custom_command(OUTPUT tarnis.qmltypes DEPENDS ${descriptions}
     COMMAND Qt5::moc --collect-json -o types.json ${descriptions}
+    COMMAND sed -i s/Gallery::// types.json
     COMMAND ${qt_programs}/qmltyperegistrar --generate-qmltypes=tarnis.qmltypes --import-name=Tarnis
         --major-version=1 --minor-version=0 --foreign-types=${qt_libraries}/metatypes/qt5core_metatypes.json
         -o registration.cpp types.json
@@ -32,8 +35,7 @@ add_custom_command(OUTPUT tarnis.qmltypes DEPENDS ${descriptions}
         tarnis.qmltypes
     VERBATIM)
 add_custom_target(tarnis-qmltypes ALL DEPENDS tarnis.qmltypes)
-# Beside the modules of Qt 5, where Qt Creator looks, and by themselves, for a qmllint of Qt 6, which must not be given
-# those.
+# Qt Creator looks beside the modules of Qt 5. The qmllint of Qt 6 must not see those, so it gets a folder of its own.
 foreach(imports IN ITEMS ${CMAKE_INSTALL_LIBDIR}/qt5/qml ${CMAKE_INSTALL_DATADIR}/tarnis/qml)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarnis.qmltypes ${PROJECT_SOURCE_DIR}/Gallery/qmldir
         DESTINATION ${imports}/Tarnis COMPONENT development)

@@ -7,7 +7,7 @@ Blocks.Rows {
 
     readonly property var dimensions: Ui.dimensions.uiElementDimensions
 
-    rows: Catalogue.revision >= 0 ? Catalogue.dimensions(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.dimensions(search) : []
     delegate: Blocks.Entry {
         readonly property string name: modelData
 
@@ -27,16 +27,16 @@ Blocks.Rows {
                 text: name in page.dimensions ? page.dimensions[name] : "–"
             }
             Repeater {
-                model: Catalogue.displays
+                model: Catalog.displays
                 Blocks.Caption {
-                    readonly property var number: Catalogue.dimension(modelData, name)
+                    readonly property var number: Catalog.dimension(modelData, name)
 
                     width: 104
                     color: number === undefined ? "#b3261e" : "#404850"
                     text: modelData + ": " + (number === undefined ? "missing" : number)
                 }
             }
-            // One pixel for a pixel, as far as there is room.
+            // Drawn at its real length, as far as there is room.
             Rectangle {
                 width: Math.max(0, Math.min(page.dimensions[name] || 0, page.width - x - 16))
                 height: 14

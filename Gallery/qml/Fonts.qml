@@ -8,10 +8,10 @@ Blocks.Rows {
 
     readonly property int dotsPerInch: Math.round(Screen.logicalPixelDensity * 25.4)
 
-    rows: Catalogue.revision >= 0 ? Catalogue.fonts(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.fonts(search) : []
     delegate: Blocks.Entry {
         readonly property string family: Ui.fonts.getFontFamily(modelData.group)
-        readonly property string usedFamily: Catalogue.usedFamily(family)
+        readonly property string usedFamily: Catalog.usedFamily(family)
         readonly property double points: Ui.fonts.getFontPointSize(modelData.group, modelData.key)
 
         width: page.width
@@ -24,7 +24,7 @@ Blocks.Rows {
                     text: modelData.group + "/" + modelData.key
                 }
                 Blocks.Caption {
-                    text: family + ", " + Catalogue.fontPixels(modelData.group, modelData.key) + " px, "
+                    text: family + ", " + modelData.value + " px, "
                         + points.toFixed(2) + " pt at " + page.dotsPerInch + " dots per inch"
                 }
                 Blocks.Mark {

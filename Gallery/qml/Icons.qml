@@ -9,11 +9,11 @@ Blocks.Cells {
     topMargin: 8
     cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 116))
     cellHeight: 112
-    rows: Catalogue.revision >= 0 ? Catalogue.icons(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.icons(search) : []
     delegate: Blocks.Entry {
         readonly property string alias: modelData
-        readonly property string effectiveContext: Catalogue.revision >= 0
-            ? Catalogue.effectiveContext(alias, View.context) : ""
+        readonly property string effectiveContext: Catalog.revision >= 0
+            ? Catalog.effectiveContext(alias, View.context) : ""
         readonly property string url: Ui.icons.getIconPathAsFileUrl(alias, View.context)
 
         width: page.cellWidth
@@ -30,7 +30,7 @@ Blocks.Cells {
                 Image {
                     anchors.centerIn: parent
                     sourceSize: Qt.size(48, 48)
-                    source: url === "" ? "" : url + "#" + Catalogue.revision
+                    source: url === "" ? "" : url + "#" + Catalog.revision
                 }
             }
             Blocks.Title {

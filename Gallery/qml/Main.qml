@@ -9,11 +9,10 @@ ApplicationWindow {
     id: window
 
     readonly property var tabs: View.pages.filter(name => !name.startsWith("Device") || name === "Device")
-    readonly property var displaySize: View.display.split("x")
 
     title: "Tarnis gallery"
-    width: View.display === "" ? Math.min(Screen.width, 1280) : Number(displaySize[0])
-    height: View.display === "" ? Math.min(Screen.height, 800 + bar.height) : Number(displaySize[1]) + bar.height
+    width: View.display === "" ? Math.min(Screen.width, 1280) : View.displaySize.width
+    height: View.display === "" ? Math.min(Screen.height, 800 + bar.height) : View.displaySize.height + bar.height
     visible: true
     color: "white"
 
@@ -60,24 +59,24 @@ ApplicationWindow {
                 }
                 Blocks.Choice {
                     Layout.preferredWidth: 110
-                    label: "Language of the texts"
-                    model: Catalogue.languages
+                    label: "Text language"
+                    model: Catalog.languages
                     value: View.language
-                    onChosen: View.language = value
+                    onChosen: value => View.language = value
                 }
                 Blocks.Choice {
                     Layout.preferredWidth: 150
-                    label: "Context of the icons"
-                    model: Catalogue.contexts
+                    label: "Icon context"
+                    model: Catalog.contexts
                     value: View.context
-                    onChosen: View.context = value
+                    onChosen: value => View.context = value
                 }
                 Blocks.Choice {
                     Layout.preferredWidth: 130
                     label: "Display size"
-                    model: ["real screen"].concat(Catalogue.displays)
+                    model: ["real screen"].concat(Catalog.displays)
                     value: View.display === "" ? "real screen" : View.display
-                    onChosen: View.display = value === "real screen" ? "" : value
+                    onChosen: value => View.display = value === "real screen" ? "" : value
                 }
             }
         }
@@ -87,7 +86,7 @@ ApplicationWindow {
         id: problem
 
         width: parent.width
-        height: visible ? Math.max(askAgain.height, problemText.height) + 12 : 0
+        height: visible ? Math.max(retry.height, problemText.height) + 12 : 0
         visible: View.problem !== ""
         color: "#fde7e7"
 
@@ -96,7 +95,7 @@ ApplicationWindow {
 
             x: 12
             y: 6
-            width: parent.width - askAgain.width - 36
+            width: parent.width - retry.width - 36
             height: Math.min(implicitHeight, 96)
             clip: true
             color: "#8c1d18"
@@ -106,13 +105,13 @@ ApplicationWindow {
             wrapMode: Text.Wrap
         }
         Button {
-            id: askAgain
+            id: retry
 
             anchors.right: parent.right
             anchors.rightMargin: 12
             y: 6
             height: 32
-            text: "Ask again"
+            text: "Retry"
             onClicked: View.reload()
         }
     }

@@ -5,14 +5,14 @@ import "blocks" as Blocks
 Blocks.Rows {
     id: page
 
-    readonly property int columnWidth: (width - 24) / (Catalogue.languages.length + 1)
+    readonly property int columnWidth: (width - 24) / (Catalog.languages.length + 1)
 
-    rows: Catalogue.revision >= 0 ? Catalogue.texts(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.texts(search) : []
     header: Row {
         x: 8
         height: 28
         Repeater {
-            model: ["URL"].concat(Catalogue.languages)
+            model: ["URL"].concat(Catalog.languages)
             Blocks.Title {
                 width: page.columnWidth
                 text: modelData + (modelData === View.language ? " (shown)" : "")
@@ -33,9 +33,9 @@ Blocks.Rows {
                 text: url
             }
             Repeater {
-                model: Catalogue.languages
+                model: Catalog.languages
                 Blocks.Caption {
-                    readonly property bool isMissing: Catalogue.revision >= 0 && Catalogue.isTextMissing(url, modelData)
+                    readonly property bool isMissing: Catalog.revision >= 0 && Catalog.isTextMissing(url, modelData)
 
                     width: page.columnWidth
                     rightPadding: 6
@@ -43,7 +43,7 @@ Blocks.Rows {
                     font.pixelSize: 13
                     wrapMode: Text.Wrap
                     text: isMissing ? "missing" : modelData === View.language ? Ui.texts.translatedTexts[url]
-                                                                               : Catalogue.text(url, modelData)
+                                                                               : Catalog.text(url, modelData)
                 }
             }
         }

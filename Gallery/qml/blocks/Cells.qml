@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnis 1.0
 
-// The same as a grid.
+// Like Rows, but a grid.
 GridView {
     id: view
 

@@ -12,5 +12,5 @@ ComboBox {
     Accessible.name: label
     ToolTip.text: label
     ToolTip.visible: hovered
-    onActivated: chosen(model[index])
+    onActivated: index => chosen(model[index])
 }

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnis 1.0
 
-// An entry of a list or grid. Pressing it copies the expression that QML code would use.
+// An entry of a list or grid. A click copies the QML expression for its value.
 AbstractButton {
     property string expression
 

@@ -1,6 +1,6 @@
 import QtQuick 2.15
 
-// Marks what a designer should look at.
+// Draws the designer's attention to a problem.
 Rectangle {
     property alias text: label.text
 

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnis 1.0
 
-// A list that creates only what is seen, and keeps its place when its rows are asked for again.
+// A list that creates only the visible rows and keeps its scroll position when the rows change.
 ListView {
     id: view
 

@@ -5,7 +5,7 @@ import "blocks" as Blocks
 Item {
     id: page
 
-    readonly property var entries: Catalogue.revision >= 0 ? Catalogue.colors("") : []
+    readonly property var entries: Catalog.revision >= 0 ? Catalog.colors("") : []
     readonly property var names: entries.map(entry => entry.group + "/" + entry.key)
     property string background: "white"
     readonly property int backgroundIndex: names.indexOf(background)
@@ -27,10 +27,10 @@ Item {
         Blocks.Choice {
             anchors.verticalCenter: parent.verticalCenter
             width: 260
-            label: "Background of the contrast ratio"
+            label: "Background color for the contrast ratio"
             model: ["white", "black"].concat(page.names)
             value: page.background
-            onChosen: page.background = value
+            onChosen: value => page.background = value
         }
     }
 
@@ -40,11 +40,11 @@ Item {
         leftMargin: 8
         cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 150))
         cellHeight: 124
-        rows: Catalogue.revision >= 0 ? Catalogue.colors(search) : []
+        rows: Catalog.revision >= 0 ? Catalog.colors(search) : []
         delegate: Blocks.Entry {
             readonly property string value: Ui.colors.getColor(modelData.group, modelData.key)
-            readonly property bool isColor: Catalogue.isColor(value)
-            readonly property double contrast: Catalogue.contrast(value, page.backgroundColor)
+            readonly property bool isColor: Catalog.isColor(value)
+            readonly property double contrast: Catalog.contrast(value, page.backgroundColor)
 
             width: GridView.view.cellWidth
             height: GridView.view.cellHeight
@@ -58,7 +58,7 @@ Item {
                     color: isColor ? value : "transparent"
                     Blocks.Mark {
                         anchors.centerIn: parent
-                        text: isColor ? "" : "no colour"
+                        text: isColor ? "" : "not a color"
                     }
                 }
                 Blocks.Title {

@@ -1,0 +1,200 @@
+#include "Gallery/Catalog.h"
+
+#include "Gallery/Entry.h"
+#include "Gallery/UiResources.h"
+#include "ResourceFormat/Contrast.h"
+#include "ResourceFormat/Directory.h"
+#include "ResourceFormat/DisplaySize.h"
+#include "ResourceFormat/Language.h"
+
+#include <QColor>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace Gallery
+{
+
+using namespace ResourceFormat;
+
+namespace
+{
+
+QVariantList matching(const QVariantList& entries, const QString& search)
+{
+    QVariantList matches;
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(matches), [&](const QVariant& entry) {
+        return entry.value<Entry>().name().contains(search, Qt::CaseInsensitive);
+    });
+    return matches;
+}
+
+} // namespace
+
+Catalog::Catalog(const UiResources& uiResources)
+    : resources(uiResources)
+{
+    connect(&resources, &UiResources::reloaded, this, &Catalog::update);
+    update();
+}
+
+int Catalog::revision() const
+{
+    return currentRevision;
+}
+
+QStringList Catalog::contexts() const
+{
+    return contextNames;
+}
+
+QStringList Catalog::displays() const
+{
+    return displayNames;
+}
+
+QStringList Catalog::languages() const
+{
+    return languageNames;
+}
+
+QVariantList Catalog::colors(const QString& search) const
+{
+    return matching(colorEntries, search);
+}
+
+QVariantList Catalog::fonts(const QString& search) const
+{
+    return matching(fontEntries, search);
+}
+
+QStringList Catalog::dimensions(const QString& search) const
+{
+    QStringList names;
+    for (const QVariantMap& dimensions : dimensionsByDisplay)
+        names += dimensions.keys();
+    names.removeDuplicates();
+    names.sort();
+    return names.filter(search, Qt::CaseInsensitive);
+}
+
+QStringList Catalog::icons(const QString& search) const
+{
+    return QStringList(iconMap.keys()).filter(search, Qt::CaseInsensitive);
+}
+
+QStringList Catalog::texts(const QString& search) const
+{
+    const QList<QString> urls =
+        resources.textManager().getAvailableUrls(Language::fileName(Language::secondFallback()));
+    QStringList matches;
+    for (const QString& url : urls) {
+        const auto matchesIn = [&](const QString& language) {
+            return text(url, language).contains(search, Qt::CaseInsensitive);
+        };
+        if (url.contains(search, Qt::CaseInsensitive)
+            || std::any_of(languageNames.begin(), languageNames.end(), matchesIn))
+            matches.append(url);
+    }
+    return matches;
+}
+
+bool Catalog::isColor(const QString& text) const
+{
+    return QColor::isValidColor(text);
+}
+
+double Catalog::contrast(const QString& text, const QString& background) const
+{
+    if (!isColor(text) || !isColor(background))
+        return 0;
+    return Contrast::ratio(QColor(text), QColor(background));
+}
+
+QString Catalog::usedFamily(const QString& family) const
+{
+    const bool isInstalled = QFontDatabase().families().contains(family, Qt::CaseInsensitive);
+    return isInstalled ? family : QFontInfo(QFont(family)).family();
+}
+
+QVariant Catalog::dimension(const QString& display, const QString& name) const
+{
+    return dimensionsByDisplay.value(display).value(name);
+}
+
+QString Catalog::effectiveContext(const QString& alias, const QString& context) const
+{
+    const TarnisIconHandler::ContextMap contexts = iconMap.value(alias);
+    const auto found = TarnisIconHandler::findContext(contexts, context);
+    return found == contexts.end() ? QString() : found.key();
+}
+
+QString Catalog::text(const QString& url, const QString& language) const
+{
+    return resources.textManager().getText(url, language);
+}
+
+bool Catalog::isTextMissing(const QString& url, const QString& language) const
+{
+    QStringList languages = Language::fallbackChain(language);
+    // The second fallback is part of every chain, but only its own variants are written in that language.
+    if (QLocale(language).language() != QLocale(Language::secondFallback()).language())
+        languages.removeAll(Language::secondFallback());
+    return std::none_of(languages.begin(), languages.end(), [&](const QString& name) {
+        return resources.textManager().getAvailableUrls(Language::fileName(name)).contains(url);
+    });
+}
+
+void Catalog::update()
+{
+    const ServiceAnswers& answers = resources.answers();
+    colorEntries = Entry::ofFile(answers.colorIniFilePath);
+    fontEntries = Entry::ofFile(answers.fontIniFilePath);
+    const auto isFamily = [](const QVariant& entry) {
+        return entry.value<Entry>().key == TarnisFontHandler::familyKey;
+    };
+    fontEntries.erase(std::remove_if(fontEntries.begin(), fontEntries.end(), isFamily), fontEntries.end());
+    updateDisplays(answers);
+    updateIcons(answers);
+    updateLanguages(answers);
+    ++currentRevision;
+    Q_EMIT changed();
+}
+
+void Catalog::updateDisplays(const ServiceAnswers& answers)
+{
+    displayNames.clear();
+    dimensionsByDisplay.clear();
+    for (const auto& [size, path] : answers.displaySizes) {
+        const QString display = DisplaySize::toName(size);
+        displayNames.append(display);
+        const QVariantList entries = Entry::ofFile(path);
+        for (const QVariant& variant : entries) {
+            const auto entry = variant.value<Entry>();
+            dimensionsByDisplay[display].insert(entry.name(), entry.value);
+        }
+    }
+}
+
+void Catalog::updateIcons(const ServiceAnswers& answers)
+{
+    iconMap = resources.icons()->parseMappingTable(answers.iconMappingTable);
+    contextNames = QStringList(TarnisIconHandler::defaultContextPathKey);
+    for (const TarnisIconHandler::ContextMap& contexts : qAsConst(iconMap))
+        contextNames += contexts.keys();
+    contextNames.removeDuplicates();
+}
+
+void Catalog::updateLanguages(const ServiceAnswers& answers)
+{
+    languageNames.clear();
+    if (answers.directory().isEmpty())
+        return;
+    const QFileInfoList files = Directory(answers.directory()).languageFiles();
+    for (const QFileInfo& file : files)
+        languageNames.append(Language::ofFile(file.fileName()));
+}
+
+} // namespace Gallery

@@ -1,0 +1,28 @@
+#include "Gallery/Entry.h"
+
+#include "Common/IniTools/IniFileManager.h"
+
+namespace Gallery
+{
+
+QVariantList Entry::ofFile(const QString& path)
+{
+    QVariantList entries;
+    if (path.isEmpty())
+        return entries;
+    const IniFileManager file(path, nullptr);
+    const QList<QString> groups = file.getGroups();
+    for (const QString& group : groups) {
+        const QList<QString> keys = file.getChildKeys(group);
+        for (const QString& key : keys)
+            entries.append(QVariant::fromValue(Entry{group, key, file.getValueString(group, key, QString())}));
+    }
+    return entries;
+}
+
+QString Entry::name() const
+{
+    return group + QLatin1Char('/') + key;
+}
+
+} // namespace Gallery

@@ -1,0 +1,9 @@
+pragma Singleton
+
+import QtQuick 2.15
+import Tarnis 1.0
+
+// Colors come in two groups, for day and night; the icon context selects one of them.
+QtObject {
+    readonly property string name: View.context === "nightMode" ? "Night" : "Day"
+}
