@@ -1,6 +1,6 @@
 #include "ResourceCheck/Check.h"
 
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,8 +1,8 @@
 #include "ResourceCheck/Options.h"
 
-#include "ResourceCheck/Output.h"
+#include "ResourceCheck/output/TextOutput.h"
 #include "ResourceCheck/Resolve.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ResourceCheck/QmlUses.h"
-#include "ResourceCheck/Resources.h"
+#include "ResourceCheck/qml/QmlUses.h"
+#include "ResourceCheck/reading/Resources.h"
 
 #include <QPair>
 #include <QStringList>

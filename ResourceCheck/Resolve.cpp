@@ -1,7 +1,7 @@
 #include "ResourceCheck/Resolve.h"
 
 #include "Common/TextTools/LanguageDefinitions.h"
-#include "ResourceCheck/Resources.h"
+#include "ResourceCheck/reading/Resources.h"
 #include "ResourceFormat/RegularFile.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"

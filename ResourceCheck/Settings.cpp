@@ -1,8 +1,8 @@
 #include "ResourceCheck/Settings.h"
 
-#include "ResourceCheck/IniFile.h"
-#include "ResourceCheck/QmlUses.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/reading/IniFile.h"
+#include "ResourceCheck/qml/QmlUses.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>

@@ -1,9 +1,9 @@
 #include "ResourceCheck/Check.h"
 #include "ResourceCheck/Options.h"
-#include "ResourceCheck/Output.h"
+#include "ResourceCheck/output/TextOutput.h"
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/Resolve.h"
-#include "ResourceCheck/SarifOutput.h"
+#include "ResourceCheck/output/SarifOutput.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

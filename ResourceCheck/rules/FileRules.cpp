@@ -1,6 +1,6 @@
 #include "Common/TextTools/LanguageDefinitions.h"
 #include "ResourceCheck/Project.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QFileInfo>
 

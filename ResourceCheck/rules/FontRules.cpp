@@ -1,5 +1,5 @@
 #include "ResourceCheck/Project.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QFontDatabase>
 

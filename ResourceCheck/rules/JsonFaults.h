@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ResourceCheck/JsonFile.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/reading/JsonFile.h"
+#include "ResourceCheck/rules/Rule.h"
 
 /// Reports what keeps the text from being one JSON object, if anything does.
 void reportFault(const JsonFile& file, const Report& report);

@@ -1,7 +1,7 @@
-#include "ResourceCheck/KnownNames.h"
+#include "ResourceCheck/qml/KnownNames.h"
 #include "ResourceCheck/Project.h"
-#include "ResourceCheck/ResourceNames.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/reading/ResourceNames.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <algorithm>
 

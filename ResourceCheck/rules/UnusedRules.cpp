@@ -1,6 +1,6 @@
 #include "ResourceCheck/Project.h"
-#include "ResourceCheck/ResourceNames.h"
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/reading/ResourceNames.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QHash>
 #include <QRegularExpression>

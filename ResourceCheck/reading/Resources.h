@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ResourceCheck/IniFile.h"
-#include "ResourceCheck/JsonFile.h"
+#include "ResourceCheck/reading/IniFile.h"
+#include "ResourceCheck/reading/JsonFile.h"
 
 #include <QSize>
 #include <QVector>

@@ -1,6 +1,6 @@
-#include "ResourceCheck/QmlCollector.h"
+#include "ResourceCheck/qml/QmlCollector.h"
 
-#include "ResourceCheck/QmlExpression.h"
+#include "ResourceCheck/qml/QmlExpression.h"
 
 using namespace QQmlJS;
 

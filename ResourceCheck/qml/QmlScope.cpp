@@ -1,4 +1,4 @@
-#include "ResourceCheck/QmlScope.h"
+#include "ResourceCheck/qml/QmlScope.h"
 
 #include <QSet>
 

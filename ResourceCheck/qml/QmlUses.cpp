@@ -1,8 +1,8 @@
-#include "ResourceCheck/QmlUses.h"
+#include "ResourceCheck/qml/QmlUses.h"
 
-#include "ResourceCheck/QmlCollector.h"
-#include "ResourceCheck/QmlExpression.h"
-#include "ResourceCheck/QmlScope.h"
+#include "ResourceCheck/qml/QmlCollector.h"
+#include "ResourceCheck/qml/QmlExpression.h"
+#include "ResourceCheck/qml/QmlScope.h"
 #include "ResourceFormat/RegularFile.h"
 
 #include <QDirIterator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ResourceCheck/QmlPattern.h"
+#include "ResourceCheck/qml/QmlPattern.h"
 
 #include <QVector>
 

@@ -1,4 +1,4 @@
-#include "ResourceCheck/QmlExpression.h"
+#include "ResourceCheck/qml/QmlExpression.h"
 
 #include <private/qqmljsast_p.h>
 

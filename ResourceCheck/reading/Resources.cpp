@@ -1,4 +1,4 @@
-#include "ResourceCheck/Resources.h"
+#include "ResourceCheck/reading/Resources.h"
 
 #include <QDir>
 #include <QRegularExpression>

@@ -1,4 +1,4 @@
-#include "ResourceCheck/QmlPattern.h"
+#include "ResourceCheck/qml/QmlPattern.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "ResourceCheck/JsonFile.h"
+#include "ResourceCheck/reading/JsonFile.h"
 
 #include "ResourceFormat/RegularFile.h"
 

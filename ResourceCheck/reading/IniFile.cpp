@@ -1,4 +1,4 @@
-#include "ResourceCheck/IniFile.h"
+#include "ResourceCheck/reading/IniFile.h"
 
 #include "ResourceFormat/RegularFile.h"
 

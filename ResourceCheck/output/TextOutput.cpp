@@ -1,6 +1,6 @@
-#include "ResourceCheck/Output.h"
+#include "ResourceCheck/output/TextOutput.h"
 
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

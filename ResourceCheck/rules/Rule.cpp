@@ -1,4 +1,4 @@
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <algorithm>
 

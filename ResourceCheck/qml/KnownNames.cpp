@@ -1,4 +1,4 @@
-#include "ResourceCheck/KnownNames.h"
+#include "ResourceCheck/qml/KnownNames.h"
 
 #include <QVarLengthArray>
 #include <QtAlgorithms>

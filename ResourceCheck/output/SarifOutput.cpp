@@ -1,6 +1,6 @@
-#include "ResourceCheck/SarifOutput.h"
+#include "ResourceCheck/output/SarifOutput.h"
 
-#include "ResourceCheck/Rule.h"
+#include "ResourceCheck/rules/Rule.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

@@ -1,4 +1,4 @@
-#include "ResourceCheck/ResourceNames.h"
+#include "ResourceCheck/reading/ResourceNames.h"
 
 #include "Common/TextTools/LanguageDefinitions.h"
 
