@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <tuple>
 
+namespace ResourceCheck
+{
+
 QVector<Finding> check(const Project& project, const QHash<QString, Severity>& severities, const Progress& progress)
 {
     QVector<Finding> findings;
@@ -24,3 +27,5 @@ QVector<Finding> check(const Project& project, const QHash<QString, Severity>& s
     });
     return findings;
 }
+
+} // namespace ResourceCheck

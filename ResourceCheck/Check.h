@@ -7,13 +7,18 @@
 
 #include <functional>
 
+namespace ResourceCheck
+{
+
 struct Project;
 
-/// Is told how many rules are done, of how many.
+/// Called after each rule with the number of rules that are done.
 using Progress = std::function<void(int done, int all)>;
 
-/// Applies every rule that is not switched off, each with its own severity or the one given for its name. The findings
-/// are sorted by place.
+/// Applies all rules that are not switched off and returns the findings, sorted by place. `severities` overrides the
+/// severities of rules by their names.
 QVector<Finding> check(
     const Project& project, const QHash<QString, Severity>& severities,
     const Progress& progress = [](int /*done*/, int /*all*/) {});
+
+} // namespace ResourceCheck

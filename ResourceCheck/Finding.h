@@ -1,24 +1,12 @@
 #pragma once
 
+#include "ResourceCheck/Severity.h"
+#include "ResourceCheck/reading/Place.h"
+
 #include <QString>
-#include <QStringList>
 
-enum class Severity { Off, Warning, Error };
-
-/// As the user writes and reads them, in the order of the severities.
-inline const QStringList severityNames{QStringLiteral("off"), QStringLiteral("warning"), QStringLiteral("error")};
-
-inline const QString& severityName(Severity severity)
+namespace ResourceCheck
 {
-    return severityNames.at(static_cast<int>(severity));
-}
-
-/// Where something stands. Lines and columns count from 1, columns in characters; 0 means all of it.
-struct Place {
-    QString path;
-    int line = 0;
-    int column = 0;
-};
 
 /// One fault that a rule has found.
 struct Finding {
@@ -27,3 +15,5 @@ struct Finding {
     Place place;
     QString message;
 };
+
+} // namespace ResourceCheck

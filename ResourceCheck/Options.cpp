@@ -1,15 +1,16 @@
 #include "ResourceCheck/Options.h"
 
-#include "ResourceCheck/output/TextOutput.h"
 #include "ResourceCheck/Resolve.h"
+#include "ResourceCheck/output/RuleOutput.h"
 #include "ResourceCheck/rules/Rule.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
-#include <cstdio>
-#include <cstdlib>
+namespace ResourceCheck
+{
 
 namespace
 {
@@ -22,23 +23,22 @@ QCommandLineOption option(const char* name, const char* description, const char*
 void addOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
-        QStringLiteral(
-            "Checks a resource directory for what a device would stumble over. With resolve, prints what the\n"
-            "library would answer to a lookup, and how it comes to the answer:\n%1\n"
-            "The file .tarnis-check.ini in DIR holds options for everybody: see tarnis-resource-check(1).\n\n"
-            "Exit status: 0 no errors; 1 errors found, or no answer; 2 wrong usage or unreadable directory.")
+        QStringLiteral("Checks a resource directory for faults that would otherwise show up only on a device.\n"
+                       "\"resolve\" prints what the library answers to a lookup, and why:\n%1\n"
+                       "The optional file DIR/.tarnis-check.ini contains options; see tarnis-resource-check(1).\n\n"
+                       "Exit status: 0 no errors; 1 errors found, or no answer; 2 wrong usage or unreadable directory.")
             .arg(resolveUsage()));
     parser.addOptions({
-        option("qml", "Also check what the QML files below DIR ask for.", "DIR"),
-        option("id", "What QML calls a handler, instead of the usual names.", "NAME=CLASS"),
+        option("qml", "Also check the lookups of the QML files below DIR.", "DIR"),
+        option("id", "The name of a handler in QML; replaces the default names.", "NAME=CLASS"),
         option("keep", "Resources that count as used: a pattern with * and ?.", "PATTERN"),
-        option("contrast", "Also check the contrast of two colours.", "Group/Text:Group/Background"),
-        option("rule", "off, warning or error for a rule.", "NAME=SEVERITY"),
-        option("werror", "Warnings are errors."),
-        option("format", "text (the default), json or sarif.", "FORMAT"),
-        option("summary", "Only count the findings of each rule."),
-        option("list-rules", "Print every rule with its severity and reason."),
-        option("explain", "Print what a rule is for, and how to silence it.", "RULE"),
+        option("contrast", "Also check the contrast of two colors.", "Group/Text:Group/Background"),
+        option("rule", "Set the severity of a rule: off, warning or error.", "NAME=SEVERITY"),
+        option("werror", "Treat warnings as errors."),
+        option("format", "The output format: text (the default), json or sarif.", "FORMAT"),
+        option("summary", "Print only the number of findings of each rule."),
+        option("list-rules", "Print all rules with their severities and reasons."),
+        option("explain", "Print the reason of a rule and how to silence it.", "RULE"),
     });
     parser.addHelpOption();
     parser.addVersionOption();
@@ -50,14 +50,9 @@ QString directoryProblem(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.isDir())
-        return QStringLiteral("no such directory: \"%1\"").arg(path);
-    return info.isReadable() && info.isExecutable() ? QString() : QStringLiteral("cannot read \"%1\"").arg(path);
-}
-
-[[noreturn]] void printAndLeave(const QByteArray& text)
-{
-    std::fputs(text.constData(), stdout);
-    std::exit(0);
+        return QStringLiteral("\"%1\" is not a directory; correct the path").arg(path);
+    const bool isReadable = info.isReadable() && info.isExecutable();
+    return isReadable ? QString() : QStringLiteral("cannot read \"%1\"; check its permissions").arg(path);
 }
 
 } // namespace
@@ -68,22 +63,28 @@ QString Options::parse(const QStringList& arguments)
     addOptions(parser);
     if (!parser.parse(arguments))
         return parser.errorText();
-    if (parser.isSet(QStringLiteral("help")))
-        parser.showHelp();
-    if (parser.isSet(QStringLiteral("version")))
-        parser.showVersion();
-    if (parser.isSet(QStringLiteral("list-rules")))
-        printAndLeave(ruleList());
+    const QString problem = readInformation(parser);
+    if (!problem.isNull() || !information.isEmpty())
+        return problem;
+    QStringList problems{readPositional(parser.positionalArguments()), readFormat(parser), readSettings(parser)};
+    problems.removeAll(QString());
+    return problems.value(0);
+}
+
+QString Options::readInformation(const QCommandLineParser& parser)
+{
     const QString explained = parser.value(QStringLiteral("explain"));
-    if (const Rule* rule = findRule(explained))
-        printAndLeave(explanation(*rule));
-    if (parser.isSet(QStringLiteral("explain")))
-        return QStringLiteral("unknown rule \"%1\"; --list-rules names those there are").arg(explained);
-    for (const QString& problem :
-         {readPositional(parser.positionalArguments()), readFormat(parser), readSettings(parser)}) {
-        if (!problem.isNull())
-            return problem;
-    }
+    const Rule* rule = findRule(explained);
+    if (parser.isSet(QStringLiteral("help")))
+        information = parser.helpText().toUtf8();
+    else if (parser.isSet(QStringLiteral("version")))
+        information = QStringLiteral("tarnis-resource-check %1\n").arg(QCoreApplication::applicationVersion()).toUtf8();
+    else if (parser.isSet(QStringLiteral("list-rules")))
+        information = ruleList();
+    else if (rule != nullptr)
+        information = explanation(*rule);
+    else if (parser.isSet(QStringLiteral("explain")))
+        return QStringLiteral("--explain: unknown rule \"%1\"; --list-rules lists all rules").arg(explained);
     return QString();
 }
 
@@ -93,11 +94,12 @@ QString Options::readPositional(const QStringList& arguments)
     question = arguments.mid(resolves ? 2 : 1);
     directory = QDir::cleanPath(arguments.value(resolves ? 1 : 0));
     if (directory.isEmpty())
-        return QStringLiteral("the resource directory DIR is missing");
-    QString problem = directoryProblem(directory);
+        return QStringLiteral("the resource directory DIR is missing; add it");
+    const QString problem = directoryProblem(directory);
     if (!problem.isNull() || (question.isEmpty() && !resolves))
         return problem;
-    return resolves ? questionProblem(question) : QStringLiteral("unexpected argument \"%1\"").arg(question.first());
+    return resolves ? questionProblem(question)
+                    : QStringLiteral("unexpected argument \"%1\"; check one directory at a time").arg(question.first());
 }
 
 QString Options::readFormat(const QCommandLineParser& parser)
@@ -105,33 +107,42 @@ QString Options::readFormat(const QCommandLineParser& parser)
     const QStringList formats{QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif")};
     format = parser.values(QStringLiteral("format")).value(0, formats.constFirst());
     if (!formats.contains(format)) {
-        return QStringLiteral("unknown format \"%1\"; there are: %2").arg(format, formats.join(QStringLiteral(", ")));
+        return QStringLiteral("--format: unknown format \"%1\"; use one of: %2")
+            .arg(format, formats.join(QStringLiteral(", ")));
     }
     if (!parser.isSet(QStringLiteral("summary")))
         return QString();
     if (format != formats.constFirst())
-        return QStringLiteral("--summary is a text; the format \"%1\" has none").arg(format);
+        return QStringLiteral("--summary: there is no summary in the format \"%1\"; leave out --format").arg(format);
     format = QStringLiteral("summary");
     return QString();
 }
 
-// The command line comes last, and wins.
+// The command line is read after the file, so that it takes precedence.
 QString Options::readSettings(const QCommandLineParser& parser)
 {
     QStringList problems{settings.readFileOf(directory)};
+    const auto addProblem = [&problems](const QString& name, const QString& problem) {
+        if (!problem.isNull())
+            problems.append(QStringLiteral("--%1: %2").arg(name, problem));
+    };
     qmlDirectories = parser.values(QStringLiteral("qml"));
     for (const QString& qmlDirectory : qAsConst(qmlDirectories))
-        problems.append(directoryProblem(qmlDirectory));
-    for (const QString& rule : parser.values(QStringLiteral("rule")))
-        problems.append(settings.setRule(rule.section(QLatin1Char('='), 0, 0), rule.section(QLatin1Char('='), 1)));
+        addProblem(QStringLiteral("qml"), directoryProblem(qmlDirectory));
+    for (const QString& rule : parser.values(QStringLiteral("rule"))) {
+        addProblem(QStringLiteral("rule"),
+                   settings.setRule(rule.section(QLatin1Char('='), 0, 0), rule.section(QLatin1Char('='), 1)));
+    }
     if (parser.isSet(QStringLiteral("id")))
         settings.handlerNames.clear();
     for (const QString& name : {QStringLiteral("id"), QStringLiteral("keep"), QStringLiteral("contrast")}) {
         for (const QString& value : parser.values(name))
-            problems.append(settings.setOption(name, value));
+            addProblem(name, settings.setOption(name, value));
     }
     if (parser.isSet(QStringLiteral("werror")))
         settings.warningsAreErrors = true;
     problems.removeAll(QString());
     return problems.value(0);
 }
+
+} // namespace ResourceCheck

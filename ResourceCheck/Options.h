@@ -2,22 +2,34 @@
 
 #include "ResourceCheck/Settings.h"
 
+#include <QByteArray>
+
 class QCommandLineParser;
+
+namespace ResourceCheck
+{
 
 /// The command line of the checker.
 struct Options {
-    /// What is wrong with the arguments or the directory's configuration, as a sentence; null if nothing is. Prints and
-    /// leaves for --help, --version, --list-rules and --explain.
+    /// Returns what is wrong with the arguments or with the configuration file of the directory, and what to do; null
+    /// if nothing is wrong.
     QString parse(const QStringList& arguments);
 
+    /// What --help, --version, --list-rules or --explain print. If it is not empty, there is nothing else to do, and
+    /// the other members are not set.
+    QByteArray information;
+
     QString directory;
-    QStringList question; // behind `resolve DIR`; else empty
+    QStringList question; // the arguments after `resolve DIR`; otherwise empty
     QStringList qmlDirectories;
     QString format; // `text`, `summary`, `json` or `sarif`
     Settings settings;
 
 private:
+    QString readInformation(const QCommandLineParser& parser);
     QString readPositional(const QStringList& arguments);
     QString readFormat(const QCommandLineParser& parser);
     QString readSettings(const QCommandLineParser& parser);
 };
+
+} // namespace ResourceCheck

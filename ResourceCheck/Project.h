@@ -9,12 +9,17 @@
 
 #include <optional>
 
-/// All that the rules look at.
+namespace ResourceCheck
+{
+
+/// Everything that the rules look at.
 struct Project {
     Resources resources;
     std::optional<QmlUses> qml;
-    /// Names of text colour and background, each `Group/Key`, beside those that are pairs by convention.
+    /// Names of a text color and its background, each as `Group/Key`, in addition to the pairs by convention.
     QVector<QPair<QString, QString>> contrastPairs;
-    /// Wildcards of resources that count as used.
+    /// Wildcard patterns of the resources that count as used.
     QStringList kept;
 };
+
+} // namespace ResourceCheck

@@ -1,7 +1,9 @@
 #include "ResourceCheck/Resolve.h"
 
-#include "Common/TextTools/LanguageDefinitions.h"
+#include "Common/TextTools/TextManager.h"
 #include "ResourceCheck/reading/Resources.h"
+#include "ResourceFormat/DisplaySize.h"
+#include "ResourceFormat/Language.h"
 #include "ResourceFormat/RegularFile.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
@@ -14,6 +16,11 @@
 
 #include <algorithm>
 #include <cstdio>
+
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
 
 namespace
 {
@@ -51,11 +58,6 @@ bool resolveFont(const Resources& resources, const QStringList& names)
     return print("points at 96 dpi:", points != 0.0 ? QString::number(points) : QString()) && hasFamily;
 }
 
-QSize sizeOf(const QString& name)
-{
-    return {name.section(QLatin1Char('x'), 0, 0).toInt(), name.section(QLatin1Char('x'), 1).toInt()};
-}
-
 bool resolveDimension(const Resources& resources, const QStringList& names)
 {
     QList<QPair<QSize, QString>> sizes;
@@ -63,13 +65,14 @@ bool resolveDimension(const Resources& resources, const QStringList& names)
         if (dimension.size.isValid())
             sizes.append({dimension.size, dimension.file.path()});
     }
-    // As the service sends them: of two that are equally near, the first is taken.
+    // In the order of the service, because the library uses the first of two that are equally near.
     std::sort(sizes.begin(), sizes.end(), [](const auto& left, const auto& right) {
         return std::pair(left.first.width(), left.first.height())
             < std::pair(right.first.width(), right.first.height());
     });
     TarnisElementDimensionHandler handler(sizes);
-    const QPair<QSize, QString> nearest = handler.nearestNeighbourScreenSize(sizeOf(names.at(0)));
+    const QPair<QSize, QString> nearest =
+        handler.nearestNeighbourScreenSize(ResourceFormat::DisplaySize::fromName(names.at(0)));
     print("screen:", names.at(0));
     if (!print("nearest display:", nearest.second))
         return false;
@@ -80,19 +83,17 @@ bool resolveDimension(const Resources& resources, const QStringList& names)
 bool resolveIcon(const Resources& resources, const QStringList& names)
 {
     QString problem;
-    const QString table =
-        QString::fromUtf8(ResourceFormat::RegularFile::readAll(resources.iconTables.constFirst().file.path(), problem));
-    const TarnisIconHandler handler(resources.iconDirectory, table);
-    const TarnisIconHandler::ContextMap contexts = handler.parseMappingTable(table).value(names.at(0));
+    const QByteArray table = ResourceFormat::RegularFile::readAll(resources.directory.mappingTable(), problem);
+    const TarnisIconHandler handler(resources.icons.path(), QString::fromUtf8(table));
+    const auto contexts = handler.parseMappingTable(QString::fromUtf8(table)).value(names.at(0));
     const QString requested = names.value(1, TarnisIconHandler::defaultContextPathKey);
-    const QString effective = contexts.contains(requested) ? requested : TarnisIconHandler::defaultContextPathKey;
+    const auto effective = TarnisIconHandler::findContext(contexts, requested);
     print("alias:", names.at(0));
     print("requested context:", requested);
-    if (contexts.contains(effective)) {
-        const QString path =
-            QDir(resources.iconDirectory).absolutePath() + QLatin1Char('/') + contexts.value(effective);
-        print("effective context:", effective);
-        print("relative path:", contexts.value(effective));
+    if (effective != contexts.constEnd()) {
+        const QString path = QDir(resources.icons.path()).absolutePath() + QLatin1Char('/') + *effective;
+        print("effective context:", effective.key());
+        print("relative path:", *effective);
         print("absolute path:", path);
         print("exists:", QFile::exists(path) ? QStringLiteral("yes") : QStringLiteral("no"));
     }
@@ -101,27 +102,26 @@ bool resolveIcon(const Resources& resources, const QStringList& names)
 
 bool resolveText(const Resources& resources, const QStringList& names)
 {
+    namespace Language = ResourceFormat::Language;
     const QString& language = names.at(1);
-    const TextManager manager(resources.directory + QStringLiteral("/texts"), language);
+    const TextManager manager(resources.directory.textFolder(), language);
     const TarnisTextHandler handler(manager);
-    const QString& last = LanguageDefinitions::getSecondFallbackLanguageFilename();
-    QStringList files{language + QStringLiteral(".json"),
-                      language.section(QLatin1Char('_'), 0, 0) + QStringLiteral(".json"), last};
-    files.removeDuplicates();
-    for (const QString& file : qAsConst(files)) {
+    for (const QString& one : Language::fallbackChain(language)) {
+        const QString file = Language::fileName(one);
         const bool isFound = manager.getAvailableUrls(file).contains(names.at(0));
         print(isFound ? "found in:" : "not in:", file);
         if (isFound)
             break;
     }
-    // Only what the last of them offers is published.
+    // The library publishes only the texts of the second fallback language.
+    const QString last = Language::fileName(Language::secondFallback());
     print("offered by:", manager.getAvailableUrls(last).contains(names.at(0)) ? last : QString());
     return print("text:", handler.translatedTexts().value(names.at(0)).toString());
 }
 
 struct Kind {
     QString name;
-    QString names; // those that may be left out in brackets
+    QString names; // optional ones in brackets
     bool (*resolve)(const Resources& resources, const QStringList& names);
 };
 
@@ -157,12 +157,13 @@ QString questionProblem(const QStringList& question)
         const int most = kind.names.count(QLatin1Char(' ')) + 1;
         const int least = most - kind.names.count(QLatin1Char('['));
         if (question.size() - 1 < least || question.size() - 1 > most)
-            return QStringLiteral("write: resolve DIR %1 %2").arg(kind.name, kind.names);
-        if (kind.resolve == resolveDimension && sizeOf(question.at(1)).isEmpty())
-            return QStringLiteral("\"%1\" is no screen size; write WxH, as in 800x480").arg(question.at(1));
+            return QStringLiteral("wrong number of names; use: resolve DIR %1 %2").arg(kind.name, kind.names);
+        const bool isDisplay = ResourceFormat::DisplaySize::fromName(question.at(1)).isValid();
+        if (kind.resolve == resolveDimension && !isDisplay)
+            return QStringLiteral("\"%1\" is not a display size; use WxH, such as 800x480").arg(question.at(1));
         return QString();
     }
-    return QStringLiteral("cannot resolve \"%1\"; there are: %2")
+    return QStringLiteral("cannot resolve \"%1\"; use one of: %2")
         .arg(question.value(0), known.join(QStringLiteral(", ")));
 }
 
@@ -174,3 +175,5 @@ bool resolve(const QString& directory, const QStringList& question)
     }
     return false;
 }
+
+} // namespace ResourceCheck

@@ -2,13 +2,18 @@
 
 #include <QStringList>
 
-/// The questions that resolve() answers, one a line.
+namespace ResourceCheck
+{
+
+/// The questions that resolve() answers, one per line.
 QString resolveUsage();
 
-/// What is wrong with the question, as a sentence that says what is allowed; null if nothing is.
+/// What is wrong with the question and what to do; null if nothing is wrong.
 QString questionProblem(const QStringList& question);
 
-/// Asks the library what it would answer if a service published the directory, and prints that, and how it comes to it,
-/// to the standard output stream. Returns whether there is an answer. The question must be without a problem, and a
-/// QGuiApplication must exist.
+/// Asks the library what it would answer if a service published the directory. Prints the answer, and how the library
+/// finds it, to the standard output. Returns whether there is an answer. questionProblem() must be null for the
+/// question, and a QGuiApplication must exist.
 bool resolve(const QString& directory, const QStringList& question);
+
+} // namespace ResourceCheck

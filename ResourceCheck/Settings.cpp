@@ -1,18 +1,24 @@
 #include "ResourceCheck/Settings.h"
 
-#include "ResourceCheck/reading/IniFile.h"
 #include "ResourceCheck/qml/QmlUses.h"
+#include "ResourceCheck/reading/IniFile.h"
 #include "ResourceCheck/rules/Rule.h"
 
 #include <QFileInfo>
 #include <QRegularExpression>
 
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+using ResourceFormat::IniParser;
+
 QString Settings::setRule(const QString& name, const QString& severity)
 {
     if (findRule(name) == nullptr)
-        return QStringLiteral("unknown rule \"%1\"; --list-rules names those there are").arg(name);
+        return QStringLiteral("unknown rule \"%1\"; --list-rules lists all rules").arg(name);
     if (!severityNames.contains(severity)) {
-        return QStringLiteral("unknown severity \"%1\" of the rule %2; there are: %3")
+        return QStringLiteral("unknown severity \"%1\" of the rule %2; use one of: %3")
             .arg(severity, name, severityNames.join(QStringLiteral(", ")));
     }
     severities.insert(name, static_cast<Severity>(severityNames.indexOf(severity)));
@@ -21,31 +27,47 @@ QString Settings::setRule(const QString& name, const QString& severity)
 
 QString Settings::setOption(const QString& name, const QString& value)
 {
-    static const QRegularExpression pair(QStringLiteral("\\A([^:]+/[^:]+):([^:]+/[^:]+)\\z"));
     if (name == QLatin1String("keep")) {
         kept.append(value);
-    } else if (name == QLatin1String("contrast")) {
-        const QRegularExpressionMatch match = pair.match(value);
-        if (!match.hasMatch())
-            return QStringLiteral("\"%1\" is no pair of colours; write Group/Text:Group/Background").arg(value);
-        contrastPairs.append({match.captured(1), match.captured(2)});
-    } else if (name == QLatin1String("id")) {
-        QStringList classes = QmlUses::galleryHandlers().values();
-        classes.sort();
-        const int equalsSign = value.indexOf(QLatin1Char('='));
-        if (equalsSign < 1 || !classes.contains(value.mid(equalsSign + 1))) {
-            return QStringLiteral("\"%1\" names no handler; write NAME=CLASS, with one of the classes %2")
-                .arg(value, classes.join(QStringLiteral(", ")));
-        }
-        handlerNames.insert(value.left(equalsSign), value.mid(equalsSign + 1));
-    } else if (name == QLatin1String("werror")) {
-        if (value != QLatin1String("yes") && value != QLatin1String("no"))
-            return QStringLiteral("unknown value \"%1\" of werror; there are: yes, no").arg(value);
-        warningsAreErrors = value == QLatin1String("yes");
-    } else {
-        return QStringLiteral("unknown key \"%1\"; there are: werror, keep, contrast, id").arg(name);
+        return QString();
     }
+    if (name == QLatin1String("contrast"))
+        return addContrastPair(value);
+    if (name == QLatin1String("id"))
+        return addHandlerName(value);
+    if (name == QLatin1String("werror"))
+        return setWarningsAreErrors(value);
+    return QStringLiteral("unknown key \"%1\"; use one of: werror, keep, contrast, id").arg(name);
+}
+
+QString Settings::addContrastPair(const QString& value)
+{
+    static const QRegularExpression pair(QStringLiteral("\\A([^:]+/[^:]+):([^:]+/[^:]+)\\z"));
+    const QRegularExpressionMatch match = pair.match(value);
+    if (!match.hasMatch())
+        return QStringLiteral("\"%1\" is not a pair of colors; use Group/Text:Group/Background").arg(value);
+    contrastPairs.append({match.captured(1), match.captured(2)});
     return QString();
+}
+
+QString Settings::addHandlerName(const QString& value)
+{
+    QStringList classes = QmlUses::galleryHandlers().values();
+    classes.sort();
+    const auto equalsSign = value.indexOf(QLatin1Char('='));
+    if (equalsSign < 1 || !classes.contains(value.mid(equalsSign + 1))) {
+        return QStringLiteral("\"%1\" does not name a handler; use NAME=CLASS with one of the classes %2")
+            .arg(value, classes.join(QStringLiteral(", ")));
+    }
+    handlerNames.insert(value.left(equalsSign), value.mid(equalsSign + 1));
+    return QString();
+}
+
+QString Settings::setWarningsAreErrors(const QString& value)
+{
+    warningsAreErrors = value == QLatin1String("yes");
+    const bool isKnown = warningsAreErrors || value == QLatin1String("no");
+    return isKnown ? QString() : QStringLiteral("unknown value \"%1\" of werror; use yes or no").arg(value);
 }
 
 QString Settings::setEntry(const IniEntry& entry)
@@ -53,7 +75,7 @@ QString Settings::setEntry(const IniEntry& entry)
     if (entry.group == QLatin1String("Rules"))
         return setRule(entry.key, entry.value);
     if (entry.group != QLatin1String("Options"))
-        return QStringLiteral("unknown group \"%1\"; there are: Rules, Options").arg(entry.group);
+        return QStringLiteral("unknown group \"%1\"; use Rules or Options").arg(entry.group);
     QString problem;
     const QStringList values = entry.value.simplified().split(QLatin1Char(' '));
     for (auto value = values.begin(); value != values.end() && problem.isNull(); ++value)
@@ -68,7 +90,7 @@ QString Settings::readFileOf(const QString& directory)
         return QString();
     const IniFile file(info.filePath());
     if (!file.problem().isNull())
-        return QStringLiteral("%1: cannot be read: %2").arg(file.path(), file.problem());
+        return QStringLiteral("%1: cannot read the file: %2").arg(file.path(), file.problem());
     const auto located = [&file](int line, const QString& problem) {
         return QStringLiteral("%1:%2: %3").arg(file.path(), QString::number(line), problem);
     };
@@ -81,3 +103,5 @@ QString Settings::readFileOf(const QString& directory)
     }
     return QString();
 }
+
+} // namespace ResourceCheck

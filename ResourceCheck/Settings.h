@@ -1,35 +1,44 @@
 #pragma once
 
-#include "ResourceCheck/Finding.h"
+#include "ResourceCheck/Severity.h"
 
 #include <QHash>
 #include <QPair>
+#include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace ResourceFormat
 {
 struct IniEntry;
 }
-using ResourceFormat::IniEntry;
 
-/// How to check: what both the command line and the file `.tarnis-check.ini` of a resource directory can say.
+namespace ResourceCheck
+{
+
+/// How to check: the options of the command line and of the file `.tarnis-check.ini` in the resource directory.
 ///
-/// Each function returns what is wrong with its argument, as a sentence that says what is allowed; null if nothing is.
+/// Each function returns what is wrong with its argument and what to do; null if nothing is wrong.
 struct Settings {
-    /// A directory may be without the file.
+    /// The file is optional.
     QString readFileOf(const QString& directory);
 
     QString setRule(const QString& name, const QString& severity);
 
-    /// One value for `keep`, `contrast`, `id` or `werror`.
+    /// Adds or sets one value of `keep`, `contrast`, `id` or `werror`.
     QString setOption(const QString& name, const QString& value);
 
     QHash<QString, Severity> severities; // by the names of the rules
     QStringList kept;
     QVector<QPair<QString, QString>> contrastPairs;
-    QHash<QString, QString> handlerNames; // empty: the default ones
+    QHash<QString, QString> handlerNames; // classes by their names in QML; empty: the default names
     bool warningsAreErrors = false;
 
 private:
-    QString setEntry(const IniEntry& entry);
+    QString addContrastPair(const QString& value);
+    QString addHandlerName(const QString& value);
+    QString setWarningsAreErrors(const QString& value);
+    QString setEntry(const ResourceFormat::IniEntry& entry);
 };
+
+} // namespace ResourceCheck

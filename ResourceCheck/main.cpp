@@ -1,9 +1,11 @@
 #include "ResourceCheck/Check.h"
+#include "ResourceCheck/MessageSilencer.h"
 #include "ResourceCheck/Options.h"
-#include "ResourceCheck/output/TextOutput.h"
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/Resolve.h"
+#include "ResourceCheck/output/JsonOutput.h"
 #include "ResourceCheck/output/SarifOutput.h"
+#include "ResourceCheck/output/TextOutput.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -11,12 +13,28 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <memory>
 #include <unistd.h>
+
+using namespace ResourceCheck;
 
 namespace
 {
 
 enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2 };
+
+// The findings must not depend on the display of the caller, but on the fonts of the machine. Font sizes are printed
+// for a fixed resolution. Without a runtime directory, Qt prints a warning that has no meaning for this program.
+std::unique_ptr<QGuiApplication> createApplication(char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
+    qputenv("QT_FONT_DPI", "96");
+    static int nameOnly = 1; // Qt must not read the options
+    const MessageSilencer silencer;
+    auto application = std::make_unique<QGuiApplication>(nameOnly, argv);
+    QGuiApplication::setApplicationVersion(QStringLiteral(TARNIS_VERSION));
+    return application;
+}
 
 QVector<Finding> findFaults(const Options& options)
 {
@@ -49,7 +67,7 @@ QByteArray output(const QVector<Finding>& findings, const QString& format)
     return textOutput(findings, isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR"));
 }
 
-int run(const Options& options)
+ExitStatus runCheck(const Options& options)
 {
     const QVector<Finding> findings = findFaults(options);
     std::fputs(output(findings, options.format).constData(), stdout);
@@ -60,28 +78,30 @@ int run(const Options& options)
     return std::any_of(findings.begin(), findings.end(), isError) ? Failure : Success;
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+ExitStatus run(const QStringList& arguments)
 {
-    // No display is needed, but the machine's fonts are, and their sizes are told for one resolution.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
-    qputenv("QT_FONT_DPI", "96");
-    int nameOnly = 1; // no option is Qt's
-    const QGuiApplication application(nameOnly, argv);
-    QGuiApplication::setApplicationVersion(QStringLiteral(TARNIS_VERSION));
-    QStringList arguments;
-    std::transform(argv, argv + argc, std::back_inserter(arguments),
-                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
-
     Options options;
     const QString problem = options.parse(arguments);
     if (!problem.isNull()) {
         std::fprintf(stderr, "tarnis-resource-check: %s\n", qUtf8Printable(problem));
         return WrongUsage;
     }
+    if (!options.information.isEmpty()) {
+        std::fputs(options.information.constData(), stdout);
+        return Success;
+    }
     if (options.question.isEmpty())
-        return run(options);
+        return runCheck(options);
     return resolve(options.directory, options.question) ? Success : Failure;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const std::unique_ptr<QGuiApplication> application = createApplication(argv);
+    QStringList arguments;
+    std::transform(argv, argv + argc, std::back_inserter(arguments),
+                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+    return run(arguments);
 }

@@ -8,6 +8,9 @@
 #include <QJsonObject>
 #include <QUrl>
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
@@ -16,7 +19,7 @@ QJsonObject object(const char* name, const QJsonValue& value)
     return {{QLatin1String(name), value}};
 }
 
-// Its levels have the names of the severities, but for this one.
+// The other levels have the names of the severities.
 QString level(Severity severity)
 {
     return severity == Severity::Off ? QStringLiteral("none") : severityName(severity);
@@ -77,3 +80,5 @@ QByteArray sarifOutput(const QVector<Finding>& findings)
                           {QStringLiteral("runs"), QJsonArray{run}}};
     return QJsonDocument(log).toJson();
 }
+
+} // namespace ResourceCheck

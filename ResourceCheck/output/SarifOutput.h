@@ -5,5 +5,10 @@
 #include <QByteArray>
 #include <QVector>
 
-/// The findings in the Static Analysis Results Interchange Format, version 2.1.0, with every rule that there is.
+namespace ResourceCheck
+{
+
+/// The findings in the Static Analysis Results Interchange Format, version 2.1.0, with all rules.
 QByteArray sarifOutput(const QVector<Finding>& findings);
+
+} // namespace ResourceCheck

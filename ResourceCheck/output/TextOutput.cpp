@@ -1,21 +1,17 @@
 #include "ResourceCheck/output/TextOutput.h"
 
-#include "ResourceCheck/rules/Rule.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMap>
+#include <QStringList>
 
 #include <algorithm>
+
+namespace ResourceCheck
+{
 
 namespace
 {
 
-constexpr int nameWidth = 32;
-constexpr int numberWidth = 8;
-
-// Names in the resources may hold anything: one finding is one line, and none gives orders to a terminal.
+// Names in the resources can contain anything, but must not break a line or control the terminal.
 QString printable(const QString& text)
 {
     QString result;
@@ -57,6 +53,8 @@ QByteArray textOutput(const QVector<Finding>& findings, bool isColored)
 
 QByteArray summaryOutput(const QVector<Finding>& findings)
 {
+    constexpr int nameWidth = 32;
+    constexpr int numberWidth = 8;
     QMap<QString, int> counts;
     for (const Finding& finding : findings)
         ++counts[finding.rule];
@@ -66,43 +64,10 @@ QByteArray summaryOutput(const QVector<Finding>& findings)
     return table + totals(findings);
 }
 
-QByteArray jsonOutput(const QVector<Finding>& findings)
-{
-    QJsonArray array;
-    for (const Finding& finding : findings) {
-        array.append(QJsonObject{{QStringLiteral("rule"), finding.rule},
-                                 {QStringLiteral("severity"), severityName(finding.severity)},
-                                 {QStringLiteral("path"), finding.place.path},
-                                 {QStringLiteral("line"), finding.place.line},
-                                 {QStringLiteral("column"), finding.place.column},
-                                 {QStringLiteral("message"), finding.message}});
-    }
-    return QJsonDocument(array).toJson();
-}
-
 QByteArray totals(const QVector<Finding>& findings)
 {
     QStringList parts{counted(findings, Severity::Error), counted(findings, Severity::Warning)};
     return parts.join(QStringLiteral(", ")).toUtf8() + '\n';
 }
 
-QByteArray ruleList()
-{
-    QByteArray list;
-    for (const Rule& rule : allRules()) {
-        list += QStringLiteral("%1%2%3\n")
-                    .arg(rule.name, -nameWidth)
-                    .arg(severityName(rule.severity), -numberWidth)
-                    .arg(rule.reason)
-                    .toUtf8();
-    }
-    return list;
-}
-
-QByteArray explanation(const Rule& rule)
-{
-    return QStringLiteral("%1 (%2)\n\n%3\n\nTo silence it: --rule %1=off, or in DIR/.tarnis-check.ini:\n"
-                          "[Rules]\n%1=off\n")
-        .arg(rule.name, severityName(rule.severity), rule.reason)
-        .toUtf8();
-}
+} // namespace ResourceCheck

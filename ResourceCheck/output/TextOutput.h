@@ -5,21 +5,16 @@
 #include <QByteArray>
 #include <QVector>
 
-struct Rule;
+namespace ResourceCheck
+{
 
-/// A line for each finding, as compilers write it.
+/// One line for each finding, in the format of compilers.
 QByteArray textOutput(const QVector<Finding>& findings, bool isColored);
 
-/// How often each rule has found something, and the totals.
+/// The number of findings of each rule, and the totals.
 QByteArray summaryOutput(const QVector<Finding>& findings);
-
-/// An array with an object for each finding.
-QByteArray jsonOutput(const QVector<Finding>& findings);
 
 /// One line: "3 errors, 1 warning".
 QByteArray totals(const QVector<Finding>& findings);
 
-/// A line for each rule: its name, severity and reason.
-QByteArray ruleList();
-
-QByteArray explanation(const Rule& rule);
+} // namespace ResourceCheck

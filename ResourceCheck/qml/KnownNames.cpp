@@ -8,10 +8,13 @@
 #include <iterator>
 #include <numeric>
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
-// How many characters are to be changed, added, left out or swapped with the next; more than the limit if that is not
+// The number of characters to change, add, remove or swap with the next one; more than the limit if the limit is not
 // enough.
 int distance(const QString& left, const QString& right, int limit)
 {
@@ -49,7 +52,7 @@ quint64 lettersOf(const QString& name)
     return letters;
 }
 
-// A third of the longest part: in `text://Room/Hall` most is the same as in any other text.
+// A third of the longest part, because most of `text://Room/Hall` is the same in many other names.
 int maximumDistance(const QString& name)
 {
     int longest = 0;
@@ -60,9 +63,9 @@ int maximumDistance(const QString& name)
 
 } // namespace
 
-KnownNames::KnownNames(const QStringList& names)
-    : names(names)
-    , candidates(names)
+KnownNames::KnownNames(const QStringList& existingNames)
+    : names(existingNames)
+    , candidates(existingNames)
 {
     for (const QString& name : names)
         candidates.append(QLatin1Char('*') + name.mid(name.lastIndexOf(QLatin1Char('/'))));
@@ -84,18 +87,20 @@ bool KnownNames::contains(const QmlPattern& pattern) const
 QString KnownNames::nearest(const QmlPattern& pattern) const
 {
     const QString text = pattern.text();
-    QString nearest;
+    QString result;
     const quint64 ownLetters = lettersOf(text);
     int limit = maximumDistance(text);
     for (int index = 0; index < candidates.size() && limit > 0; ++index) {
-        // Each letter that only one of both has is a difference, and most of the candidates have many.
+        // Each letter that the candidate lacks is a difference: this skips most candidates quickly.
         if (static_cast<int>(qPopulationCount(ownLetters & ~letters.at(index))) > limit)
             continue;
         const int difference = distance(text, candidates.at(index), limit);
         if (difference <= limit) {
-            nearest = candidates.at(index);
+            result = candidates.at(index);
             limit = difference - 1;
         }
     }
-    return nearest;
+    return result;
 }
+
+} // namespace ResourceCheck

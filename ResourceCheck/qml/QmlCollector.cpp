@@ -4,6 +4,9 @@
 
 using namespace QQmlJS;
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
@@ -18,40 +21,40 @@ AST::Node* valueOf(AST::Statement* statement)
 bool QmlCollector::visit(AST::UiPublicMember* property)
 {
     if (property->statement != nullptr)
-        bind(property->name, valueOf(property->statement));
+        bind(property->name.toString(), valueOf(property->statement));
     return true;
 }
 
 bool QmlCollector::visit(AST::UiScriptBinding* binding)
 {
-    bind(AST::lastListElement(binding->qualifiedId)->name, valueOf(binding->statement));
+    bind(AST::lastListElement(binding->qualifiedId)->name.toString(), valueOf(binding->statement));
     return true;
 }
 
 bool QmlCollector::visit(AST::PatternElement* variable)
 {
-    bind(variable->bindingIdentifier, variable->initializer);
+    bind(variable->bindingIdentifier.toString(), variable->initializer);
     return true;
 }
 
 bool QmlCollector::visit(AST::PatternProperty* variable)
 {
-    bind(variable->bindingIdentifier, nullptr);
+    bind(variable->bindingIdentifier.toString(), nullptr);
     return true;
 }
 
 bool QmlCollector::visit(AST::CallExpression* call)
 {
-    Question question{QmlExpression::path(call->base), {}};
+    Lookup lookup{QmlExpression::path(call->base), {}};
     for (AST::ArgumentList* argument = call->arguments; argument != nullptr; argument = argument->next)
-        question.arguments.append(argument->expression);
-    questionList.append(question);
+        lookup.arguments.append(argument->expression);
+    lookupList.append(lookup);
     return true;
 }
 
 bool QmlCollector::visit(AST::ArrayMemberExpression* index)
 {
-    questionList.append({QmlExpression::path(index->base), {index->expression}});
+    lookupList.append({QmlExpression::path(index->base), {index->expression}});
     return true;
 }
 
@@ -67,7 +70,7 @@ bool QmlCollector::visit(AST::StringLiteralPropertyName* name)
     return true;
 }
 
-// Called for every part of a template; Qt's walk passes over the expressions between them.
+// Called for each part of a template. Qt's visitor skips the expressions between the parts.
 bool QmlCollector::visit(AST::TemplateLiteral* literal)
 {
     if (literal->expression == nullptr)
@@ -81,8 +84,10 @@ void QmlCollector::throwRecursionDepthError()
     tooDeep = true;
 }
 
-void QmlCollector::bind(const QStringRef& name, AST::Node* value)
+void QmlCollector::bind(const QString& name, AST::Node* value)
 {
     if (!name.isEmpty())
-        boundPaths[name.toString()].append(QmlExpression::path(value));
+        boundPaths[name].append(QmlExpression::path(value));
 }
+
+} // namespace ResourceCheck

@@ -7,24 +7,29 @@
 
 #include <private/qqmljsast_p.h>
 
-/// Collects from the tree of one file what may be questions to a handler. Lives no longer than the tree.
+namespace ResourceCheck
+{
+
+/// Collects the possible lookups from the syntax tree of one file. The tree must outlive it.
 class QmlCollector : public QQmlJS::AST::Visitor
 {
 public:
-    /// A call or an index.
-    struct Question {
-        QString path; // of what is called or indexed
+    /// A call or an index expression.
+    struct Lookup {
+        QString path; // of the expression that is called or indexed
         QVector<QQmlJS::AST::ExpressionNode*> arguments;
     };
 
-    const QVector<Question>& questions() const { return questionList; }
+    const QVector<Lookup>& lookups() const { return lookupList; }
 
-    /// What the properties, variables and parameters are bound to: paths, empty for what has none.
+    /// The paths that properties, variables and parameters are bound to by their names; an empty path for any other
+    /// value.
     const QHash<QString, QStringList>& bindings() const { return boundPaths; }
 
+    /// All string literals.
     const QSet<QString>& literals() const { return literalSet; }
 
-    /// The tree is too deep to see all of it.
+    /// Whether the tree is too deep to be visited completely.
     bool isTooDeep() const { return tooDeep; }
 
 private:
@@ -39,10 +44,12 @@ private:
     bool visit(QQmlJS::AST::StringLiteralPropertyName* name) override;
     bool visit(QQmlJS::AST::TemplateLiteral* literal) override;
     void throwRecursionDepthError() override;
-    void bind(const QStringRef& name, QQmlJS::AST::Node* value);
+    void bind(const QString& name, QQmlJS::AST::Node* value);
 
-    QVector<Question> questionList;
+    QVector<Lookup> lookupList;
     QHash<QString, QStringList> boundPaths;
     QSet<QString> literalSet;
     bool tooDeep = false;
 };
+
+} // namespace ResourceCheck

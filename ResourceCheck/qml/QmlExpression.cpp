@@ -4,13 +4,16 @@
 
 using namespace QQmlJS;
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
 using Texts = QVector<QmlPattern>;
 
-constexpr int maximumDepth = 500; // of what is looked into
-constexpr int maximumTexts = 64;  // of a sum
+constexpr int maximumDepth = 500; // of nested expressions
+constexpr int maximumTexts = 64;  // of a concatenation
 
 Place placeOf(const QString& file, const SourceLocation& location)
 {
@@ -90,3 +93,5 @@ QVector<QmlPattern> QmlExpression::texts(AST::ExpressionNode* expression, const 
 {
     return textsAt(expression, file, 0);
 }
+
+} // namespace ResourceCheck

@@ -6,15 +6,20 @@
 
 #include <private/qqmljsastfwd_p.h>
 
-/// What an expression of QML says before it is run.
+namespace ResourceCheck
+{
+
+/// What is known about a QML expression without running it.
 namespace QmlExpression
 {
 
-/// The names of a member expression with dots between them. What stands before them and is no name counts as an empty
-/// one: `.colors` for `item().colors`. Empty for any other expression.
+/// The names of a member expression, separated by dots. Anything but a name counts as an empty name: `.colors` for
+/// `item().colors`. Empty for any other expression.
 QString path(QQmlJS::AST::Node* expression);
 
-/// The texts that the expression may have: for `isOpen ? "up" : "down"` both. At least one.
+/// The texts that the expression can have, at least one: both of them for `isOpen ? "up" : "down"`.
 QVector<QmlPattern> texts(QQmlJS::AST::ExpressionNode* expression, const QString& file);
 
 } // namespace QmlExpression
+
+} // namespace ResourceCheck

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+namespace ResourceCheck
+{
+
 bool QmlPattern::hasText() const
 {
     return std::any_of(pieces.begin(), pieces.end(), [](const QString& piece) { return !piece.isEmpty(); });
@@ -36,3 +39,5 @@ QmlPattern operator+(const QmlPattern& left, const QmlPattern& right)
     sum.pieces += right.pieces.mid(1);
     return sum;
 }
+
+} // namespace ResourceCheck

@@ -2,6 +2,9 @@
 
 #include <QSet>
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
@@ -12,9 +15,9 @@ QString lastName(const QString& path)
 
 } // namespace
 
-QmlScope::QmlScope(const QHash<QString, QString>& handlers, const QHash<QString, QStringList>& bindings)
-    : handlers(handlers)
-    , bindings(bindings)
+QmlScope::QmlScope(const QHash<QString, QString>& handlerNames, const QHash<QString, QStringList>& boundPaths)
+    : handlers(handlerNames)
+    , bindings(boundPaths)
 {
 }
 
@@ -28,7 +31,7 @@ QString QmlScope::meaning(const QString& path)
     return owner.isEmpty() ? owner : owner + path.mid(dot);
 }
 
-// Of several names that end the path the longest is the one that is meant.
+// If several names match the end of the path, the longest one is used.
 QString QmlScope::meaningOfHandler(const QString& path)
 {
     for (int dot = -1; dot < path.size();) {
@@ -41,7 +44,7 @@ QString QmlScope::meaningOfHandler(const QString& path)
     return meaningOfBinding(lastName(path));
 }
 
-// Nothing when one name means different things in different places of the file.
+// Empty if one name refers to different things in different places of the file.
 QString QmlScope::meaningOfBinding(const QString& name)
 {
     const auto bound = bindings.constFind(name);
@@ -50,13 +53,15 @@ QString QmlScope::meaningOfBinding(const QString& name)
     const auto found = known.constFind(name);
     if (found != known.constEnd())
         return *found;
-    known.insert(name, QString()); // while it is asked for, should it be bound to itself
+    known.insert(name, QString()); // ends the recursion if the name is bound to itself
     QSet<QString> meanings;
     for (const QString& path : *bound) {
-        if (lastName(path) != name) // a name handed on as it is
+        if (lastName(path) != name) // otherwise the name is only passed on
             meanings.insert(meaning(path));
     }
     QString common = meanings.size() == 1 ? *meanings.constBegin() : QString();
     known.insert(name, common);
     return common;
 }
+
+} // namespace ResourceCheck

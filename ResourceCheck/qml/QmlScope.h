@@ -3,15 +3,19 @@
 #include <QHash>
 #include <QStringList>
 
-/// What the paths of one file mean.
+namespace ResourceCheck
+{
+
+/// What the paths in one file refer to.
 class QmlScope
 {
 public:
-    /// `handlers` are classes by the names they are published under; `bindings` as QmlCollector gives them.
-    QmlScope(const QHash<QString, QString>& handlers, const QHash<QString, QStringList>& bindings);
+    /// `handlerNames` gives the classes by the names under which they are published, `boundPaths` is the result of
+    /// QmlCollector::bindings(). Both must outlive this object.
+    QmlScope(const QHash<QString, QString>& handlerNames, const QHash<QString, QStringList>& boundPaths);
 
-    /// The class of a handler, with the name of its member if the path leads to one: `TarnisColorHandler.getColor`.
-    /// Empty for anything else.
+    /// The class of a handler, followed by the member if the path names one: `TarnisColorHandler.getColor`. Empty for
+    /// anything else.
     QString meaning(const QString& path);
 
 private:
@@ -20,5 +24,7 @@ private:
 
     const QHash<QString, QString>& handlers;
     const QHash<QString, QStringList>& bindings;
-    QHash<QString, QString> known; // by the name that is bound
+    QHash<QString, QString> known; // by the bound name
 };
+
+} // namespace ResourceCheck

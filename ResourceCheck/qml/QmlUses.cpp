@@ -11,6 +11,9 @@
 #include <private/qqmljslexer_p.h>
 #include <private/qqmljsparser_p.h>
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
@@ -28,17 +31,7 @@ const QHash<QString, ResourceKind>& kindsByMeaning()
     return kinds;
 }
 
-bool hasGroup(ResourceKind kind)
-{
-    return kind == ResourceKind::Color || kind == ResourceKind::FontSize;
-}
-
 } // namespace
-
-QmlPattern QmlUse::name(const QmlPattern& group, const QmlPattern& key) const
-{
-    return hasGroup(kind) ? group + QmlPattern::literal(QStringLiteral("/")) + key : key;
-}
 
 QHash<QString, QString> QmlUses::galleryHandlers()
 {
@@ -66,7 +59,8 @@ void QmlUses::readDirectory(const QString& directory, const QHash<QString, QStri
         files.append(iterator.next());
     files.sort();
     if (files.isEmpty())
-        faultList.append({{directory}, QStringLiteral("holds no QML file")});
+        faultList.append(
+            {{directory}, QStringLiteral("the directory contains no QML files; correct the --qml option")});
     for (const QString& file : files)
         readFile(file, handlers);
 }
@@ -75,10 +69,14 @@ void QmlUses::readFile(const QString& path, const QHash<QString, QString>& handl
 {
     QString problem;
     const QString code = QString::fromUtf8(ResourceFormat::RegularFile::readAll(path, problem));
-    if (!problem.isNull()) {
-        faultList.append({{path}, QStringLiteral("cannot be read: %1").arg(problem)});
-        return;
-    }
+    if (problem.isNull())
+        parse(code, path, handlers);
+    else
+        faultList.append({{path}, QStringLiteral("the file cannot be read: %1; make it readable").arg(problem)});
+}
+
+void QmlUses::parse(const QString& code, const QString& path, const QHash<QString, QString>& handlers)
+{
     QQmlJS::Engine engine;
     QQmlJS::Lexer lexer(&engine);
     const bool isQml = path.endsWith(QLatin1String(".qml"));
@@ -86,21 +84,20 @@ void QmlUses::readFile(const QString& path, const QHash<QString, QString>& handl
     QQmlJS::Parser parser(&engine);
     if (!(isQml ? parser.parse() : parser.parseScript())) {
         const Place place{path, parser.errorLineNumber(), parser.errorColumnNumber()};
-        faultList.append({place, parser.errorMessage()});
+        faultList.append({place, QStringLiteral("syntax error: %1; correct the code").arg(parser.errorMessage())});
         return;
     }
     QmlCollector collector;
     QQmlJS::AST::Node::accept(parser.rootNode(), &collector);
     if (collector.isTooDeep())
-        faultList.append({{path}, QStringLiteral("is nested too deeply")});
+        faultList.append({{path}, QStringLiteral("the code is nested too deeply to be checked; split it up")});
     literalSet.unite(collector.literals());
     QmlScope scope(handlers, collector.bindings());
-    for (const QmlCollector::Question& question : collector.questions()) {
-        const QString meaning = scope.meaning(question.path);
+    for (const QmlCollector::Lookup& lookup : collector.lookups()) {
         QVector<QVector<QmlPattern>> arguments;
-        for (QQmlJS::AST::ExpressionNode* argument : question.arguments)
+        for (QQmlJS::AST::ExpressionNode* argument : lookup.arguments)
             arguments.append(QmlExpression::texts(argument, path));
-        addUse(meaning, arguments);
+        addUse(scope.meaning(lookup.path), arguments);
     }
 }
 
@@ -112,10 +109,12 @@ void QmlUses::addUse(const QString& meaning, const QVector<QVector<QmlPattern>>&
     const QVector<QmlPattern>& first = arguments.first();
     const QVector<QmlPattern> second = arguments.value(1, {QmlPattern::anything()});
     const QVector<QmlPattern> noGroup{QmlPattern::anything()};
-    if (hasGroup(*kind))
+    if (hasGroupArgument(*kind))
         useList.append({*kind, first, second});
     else
         useList.append({*kind, noGroup, first});
     if (*kind == ResourceKind::Icon)
         useList.append({ResourceKind::IconContext, noGroup, second});
 }
+
+} // namespace ResourceCheck

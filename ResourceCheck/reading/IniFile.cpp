@@ -4,6 +4,12 @@
 
 #include <QTextCodec>
 
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+using ResourceFormat::IniParser;
+
 namespace
 {
 
@@ -51,3 +57,5 @@ QString IniFile::writtenValue(const IniEntry& entry) const
 {
     return lines.value(entry.line - 1).section(QLatin1Char('='), 1).trimmed();
 }
+
+} // namespace ResourceCheck

@@ -1,18 +1,18 @@
 #pragma once
 
-#include "ResourceCheck/Finding.h"
+#include "ResourceCheck/reading/Place.h"
 #include "ResourceFormat/IniParser.h"
 
 #include <QStringList>
 
-using ResourceFormat::IniEntry;
-using ResourceFormat::IniParser;
+namespace ResourceCheck
+{
 
-/// An INI file as the platform's reader understands it, with the places of what it holds.
+/// An INI file as the platform's reader understands it, with the places of its content.
 class IniFile
 {
 public:
-    /// A file that cannot be read is like an empty one, with a problem.
+    /// A file that cannot be read has no content and a problem.
     explicit IniFile(const QString& path);
 
     const QString& path() const { return filePath; }
@@ -20,21 +20,23 @@ public:
     /// Why the file cannot be read; null if it can.
     const QString& problem() const { return readProblem; }
 
-    const IniParser& content() const { return parser; }
+    const ResourceFormat::IniParser& content() const { return parser; }
 
-    /// The entries that count: of a key given again in its group, the last.
-    QVector<IniEntry> effectiveEntries() const;
+    /// The entries that count: the last one of duplicate keys.
+    QVector<ResourceFormat::IniEntry> effectiveEntries() const;
 
-    /// The first text of the line.
+    /// Where the text of the line begins.
     Place place(int line) const;
-    Place valuePlace(const IniEntry& entry) const;
+    Place valuePlace(const ResourceFormat::IniEntry& entry) const;
 
-    /// What stands behind the "=", quotes included, without the blanks around it.
-    QString writtenValue(const IniEntry& entry) const;
+    /// The text after the "=", including quotes, without the blanks around it.
+    QString writtenValue(const ResourceFormat::IniEntry& entry) const;
 
 private:
     QString filePath;
     QString readProblem;
     QStringList lines;
-    IniParser parser;
+    ResourceFormat::IniParser parser;
 };
+
+} // namespace ResourceCheck

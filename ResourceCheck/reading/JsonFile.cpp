@@ -1,126 +1,17 @@
 #include "ResourceCheck/reading/JsonFile.h"
 
+#include "ResourceCheck/reading/JsonScanner.h"
 #include "ResourceFormat/RegularFile.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
+
+namespace ResourceCheck
+{
 
 namespace
 {
 
-// Finds the places in a text that Qt's reader has accepted.
-class JsonScanner
-{
-public:
-    JsonScanner(const QString& text, const QString& path)
-        : text(text)
-        , path(path)
-    {
-    }
-
-    JsonValue scan()
-    {
-        skipBlanks();
-        JsonValue value;
-        value.place = place();
-        if (current() == QLatin1Char('{')) {
-            value.type = JsonValue::Type::Object;
-            scanObject(value);
-        } else if (current() == QLatin1Char('"')) {
-            value.type = JsonValue::Type::String;
-            value.text = scanString();
-        } else if (current() == QLatin1Char('[')) {
-            scanArray();
-        } else {
-            skipLiteral();
-        }
-        skipBlanks();
-        return value;
-    }
-
-private:
-    QChar current() const { return position < text.size() ? text.at(position) : QChar(); }
-
-    Place place() const { return {path, line, position - lineBegin + 1}; }
-
-    void advance()
-    {
-        if (text.at(position++) == QLatin1Char('\n')) {
-            ++line;
-            lineBegin = position;
-        }
-    }
-
-    void skipBlanks()
-    {
-        while (position < text.size() && current().isSpace())
-            advance();
-    }
-
-    void skipLiteral()
-    {
-        while (position < text.size() && (current().isLetterOrNumber() || QStringLiteral("+-.").contains(current())))
-            advance();
-    }
-
-    void scanObject(JsonValue& object)
-    {
-        for (advance(), skipBlanks(); position < text.size() && current() != QLatin1Char('}');) {
-            const Place namePlace = place();
-            const QString name = scanString();
-            skipBlanks();
-            advance(); // the colon
-            JsonValue member = scan();
-            member.name = name;
-            member.namePlace = namePlace;
-            object.members.append(member);
-            skipComma();
-        }
-        advance();
-    }
-
-    void scanArray()
-    {
-        for (advance(), skipBlanks(); position < text.size() && current() != QLatin1Char(']'); skipComma())
-            scan();
-        advance();
-    }
-
-    void skipComma()
-    {
-        if (current() == QLatin1Char(','))
-            advance();
-        skipBlanks();
-    }
-
-    QString scanString()
-    {
-        const int begin = position;
-        for (advance(); position < text.size() && current() != QLatin1Char('"'); advance()) {
-            if (current() == QLatin1Char('\\'))
-                advance();
-        }
-        advance();
-        return decoded(text.midRef(begin, position - begin));
-    }
-
-    // Escapes are Qt's business.
-    static QString decoded(const QStringRef& quoted)
-    {
-        const QStringRef content = quoted.mid(1, quoted.size() - 2);
-        if (!content.contains(QLatin1Char('\\')) && !content.startsWith(QChar(QChar::ByteOrderMark)))
-            return content.toString();
-        return QJsonDocument::fromJson('[' + quoted.toUtf8() + ']').array().at(0).toString();
-    }
-
-    const QString& text;
-    const QString& path;
-    int position = 0;
-    int line = 1;
-    int lineBegin = 0;
-};
-
-Place placeOf(const QString& path, const QByteArray& before)
+Place placeAfter(const QByteArray& before, const QString& path)
 {
     const int line = before.count('\n') + 1;
     const QByteArray lineBefore = before.mid(before.lastIndexOf('\n') + 1);
@@ -133,12 +24,17 @@ JsonFile::JsonFile(const QString& path)
     : filePath(path)
 {
     const QByteArray content = ResourceFormat::RegularFile::readAll(path, readProblem);
-    if (!readProblem.isNull())
-        return;
+    if (readProblem.isNull())
+        parse(content);
+}
+
+void JsonFile::parse(const QByteArray& content)
+{
+    // Qt accepts null characters, but a text with one cannot be sent over the D-Bus.
     const int nullCharacter = content.indexOf('\0');
-    if (nullCharacter >= 0) { // Qt reads on, but no text with one gets over the bus
-        jsonFault = QStringLiteral("null character");
-        placeOfFault = placeOf(path, content.left(nullCharacter));
+    if (nullCharacter >= 0) {
+        jsonFault = QStringLiteral("the file contains a null character; remove it");
+        placeOfFault = placeAfter(content.left(nullCharacter), filePath);
         return;
     }
     QJsonParseError error;
@@ -146,9 +42,13 @@ JsonFile::JsonFile(const QString& path)
     if (document.isObject()) {
         const QString text = QString::fromUtf8(content);
         rootValue = JsonScanner(text, filePath).scan();
-        return;
+    } else if (error.error == QJsonParseError::NoError) {
+        jsonFault = QStringLiteral("the file does not contain a JSON object; enclose its content in { }");
+        placeOfFault = placeAfter(QByteArray(), filePath);
+    } else {
+        jsonFault = QStringLiteral("invalid JSON: %1; correct it here or shortly before").arg(error.errorString());
+        placeOfFault = placeAfter(content.left(error.offset), filePath);
     }
-    const bool isJson = error.error == QJsonParseError::NoError;
-    jsonFault = isJson ? QStringLiteral("not a JSON object") : error.errorString();
-    placeOfFault = placeOf(path, content.left(isJson ? 0 : error.offset));
 }
+
+} // namespace ResourceCheck

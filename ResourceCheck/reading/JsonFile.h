@@ -1,27 +1,15 @@
 #pragma once
 
-#include "ResourceCheck/Finding.h"
+#include "ResourceCheck/reading/JsonValue.h"
 
-#include <QVector>
+namespace ResourceCheck
+{
 
-/// A value of a JSON text with its place, and with its name where it is a member of an object.
-/// Of several members under one name Qt keeps one, in a large object not always the last; all of them are here.
-struct JsonValue {
-    enum class Type { Object, String, Other };
-
-    Type type = Type::Other;
-    QString name;
-    Place namePlace;
-    Place place;
-    QString text;               // of a string
-    QVector<JsonValue> members; // of an object, in the order of the file
-};
-
-/// A file that is to hold one JSON object, as Qt's reader takes it, with the places of what it holds.
+/// A file that must contain one JSON object, as Qt's reader understands it, with the places of its content.
 class JsonFile
 {
 public:
-    /// A file that cannot be read, or holds no JSON object, is like one with an empty object.
+    /// A file that cannot be read, or does not contain a JSON object, has an empty root object.
     explicit JsonFile(const QString& path);
 
     const QString& path() const { return filePath; }
@@ -29,19 +17,23 @@ public:
     /// Why the file cannot be read; null if it can.
     const QString& problem() const { return readProblem; }
 
-    /// What is wrong with the text, and where; null if nothing is.
+    /// What is wrong with the text and what to do, and where; null if the text is a JSON object.
     const QString& fault() const { return jsonFault; }
     const Place& faultPlace() const { return placeOfFault; }
 
-    /// Whether the file could be read and is one JSON object. What is not brings no further findings.
+    /// Whether the file can be read and contains a JSON object.
     bool isSound() const { return readProblem.isNull() && jsonFault.isNull(); }
 
     const JsonValue& root() const { return rootValue; }
 
 private:
+    void parse(const QByteArray& content);
+
     QString filePath;
     QString readProblem;
     QString jsonFault;
     Place placeOfFault;
     JsonValue rootValue;
 };
+
+} // namespace ResourceCheck

@@ -1,69 +1,110 @@
 #include "ResourceCheck/reading/ResourceNames.h"
 
-#include "Common/TextTools/LanguageDefinitions.h"
+#include "ResourceFormat/Language.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
 
-#include <QFileInfo>
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+
+namespace
+{
+
+QString nameOf(const IniEntry& entry)
+{
+    return entry.group + QLatin1Char('/') + entry.key;
+}
+
+} // namespace
 
 ResourceNames::ResourceNames(const Resources& resources, ResourceKind kind)
 {
-    if (kind == ResourceKind::Color)
-        addPairs(resources.colors, kind);
-    if (kind == ResourceKind::FontGroup)
-        addGroups(resources.fonts);
-    if (kind == ResourceKind::FontSize)
-        addPairs(resources.fonts, kind);
-    if (kind == ResourceKind::Dimension) {
-        complete = !resources.dimensions.isEmpty();
-        for (const DimensionFile& dimension : resources.dimensions)
-            addPairs(dimension.file, kind);
-    }
-    for (const IconTable& table : resources.iconTables) {
-        if (kind == ResourceKind::Icon)
-            addMembers(table.file);
-        if (kind == ResourceKind::IconContext)
-            addContexts(table);
-    }
-    if (kind == ResourceKind::Text) {
-        const QString& filename = LanguageDefinitions::getSecondFallbackLanguageFilename();
-        for (const TextFile& text : resources.texts) {
-            if (QFileInfo(text.file.path()).fileName() == filename)
-                addMembers(text.file);
-        }
-        complete = complete && !nameList.isEmpty();
+    switch (kind) {
+    case ResourceKind::Color:
+        addColors(resources.colors);
+        break;
+    case ResourceKind::FontGroup:
+        addFontGroups(resources.fonts);
+        break;
+    case ResourceKind::FontSize:
+        addFontSizes(resources.fonts);
+        break;
+    case ResourceKind::Dimension:
+        addDimensions(resources.dimensions);
+        break;
+    case ResourceKind::Icon:
+        addIcons(resources.iconTables);
+        break;
+    case ResourceKind::IconContext:
+        addIconContexts(resources.iconTables);
+        break;
+    case ResourceKind::Text:
+        addTexts(resources.soundText(ResourceFormat::Language::secondFallback()));
+        break;
     }
 }
 
-void ResourceNames::addPairs(const IniFile& file, ResourceKind kind)
+void ResourceNames::addColors(const IniFile& file)
 {
-    complete = complete && file.problem().isNull();
-    for (const IniEntry& entry : file.content().entries()) {
-        const QString name = entry.group + QLatin1Char('/') + entry.key;
-        if (kind != ResourceKind::FontSize || entry.key != QLatin1String("Family"))
-            add(name, kind == ResourceKind::Dimension ? name : entry.key, file.place(entry.line));
-    }
+    complete = file.problem().isNull();
+    for (const IniEntry& entry : file.content().entries())
+        add(nameOf(entry), entry.key, file.place(entry.line));
 }
 
-void ResourceNames::addGroups(const IniFile& file)
+void ResourceNames::addFontGroups(const IniFile& file)
 {
-    complete = complete && file.problem().isNull();
+    complete = file.problem().isNull();
     for (const QString& group : file.content().groups())
         add(group, group, {file.path()});
 }
 
-void ResourceNames::addMembers(const JsonFile& file)
+void ResourceNames::addFontSizes(const IniFile& file)
 {
-    complete = complete && file.isSound();
-    for (const JsonValue& member : file.root().members)
-        add(member.name, member.name, member.namePlace);
+    complete = file.problem().isNull();
+    for (const IniEntry& entry : file.content().entries()) {
+        if (entry.key != TarnisFontHandler::familyKey)
+            add(nameOf(entry), entry.key, file.place(entry.line));
+    }
 }
 
-void ResourceNames::addContexts(const IconTable& table)
+void ResourceNames::addDimensions(const QVector<DimensionFile>& dimensions)
 {
-    complete = complete && table.file.isSound();
-    for (const IconAlias& alias : table.aliases) {
-        for (const IconPath& path : alias.paths)
-            add(path.context, path.context, path.place);
+    complete = !dimensions.isEmpty();
+    for (const DimensionFile& dimension : dimensions) {
+        complete = complete && dimension.file.problem().isNull();
+        for (const IniEntry& entry : dimension.file.content().entries())
+            add(nameOf(entry), nameOf(entry), dimension.file.place(entry.line));
     }
+}
+
+void ResourceNames::addIcons(const QVector<IconTable>& tables)
+{
+    for (const IconTable& table : tables) {
+        complete = complete && table.file.isSound();
+        for (const JsonValue& alias : table.file.root().members)
+            add(alias.name, alias.name, alias.namePlace);
+    }
+}
+
+void ResourceNames::addIconContexts(const QVector<IconTable>& tables)
+{
+    for (const IconTable& table : tables) {
+        complete = complete && table.file.isSound();
+        for (const IconAlias& alias : table.aliases) {
+            for (const IconPath& path : alias.paths)
+                add(path.context, path.context, path.place);
+        }
+    }
+}
+
+void ResourceNames::addTexts(const TextFile* text)
+{
+    if (text != nullptr) {
+        for (const JsonValue& member : text->file.root().members)
+            add(member.name, member.name, member.namePlace);
+    }
+    complete = !nameList.isEmpty();
 }
 
 void ResourceNames::add(const QString& name, const QString& key, const Place& place)
@@ -72,3 +113,5 @@ void ResourceNames::add(const QString& name, const QString& key, const Place& pl
         nameList.append({name, key, place});
     seen.insert(name);
 }
+
+} // namespace ResourceCheck

@@ -1,17 +1,20 @@
 #pragma once
 
-#include "ResourceCheck/qml/QmlUses.h"
+#include "ResourceCheck/reading/ResourceKind.h"
 #include "ResourceCheck/reading/Resources.h"
 
 #include <QSet>
 
+namespace ResourceCheck
+{
+
 struct ResourceName {
-    QString name; // as a whole: `Group/Key`
-    QString key;  // what QML may say without the group; else the name
+    QString name; // the whole name: `Group/Key`
+    QString key;  // the part that QML passes as one argument: the key if the group is another one, otherwise the name
     Place place;
 };
 
-/// The names of one kind that the resources answer to, each once, in the order of the files.
+/// The names of one kind that the resources define, each once, in the order of the files.
 class ResourceNames
 {
 public:
@@ -19,17 +22,22 @@ public:
 
     const QVector<ResourceName>& list() const { return nameList; }
 
-    /// No file is missing that might hold more.
+    /// Whether all files that can define such names could be read.
     bool isComplete() const { return complete; }
 
 private:
-    void addPairs(const IniFile& file, ResourceKind kind);
-    void addGroups(const IniFile& file);
-    void addMembers(const JsonFile& file);
-    void addContexts(const IconTable& table);
+    void addColors(const IniFile& file);
+    void addFontGroups(const IniFile& file);
+    void addFontSizes(const IniFile& file);
+    void addDimensions(const QVector<DimensionFile>& dimensions);
+    void addIcons(const QVector<IconTable>& tables);
+    void addIconContexts(const QVector<IconTable>& tables);
+    void addTexts(const TextFile* text);
     void add(const QString& name, const QString& key, const Place& place);
 
     QVector<ResourceName> nameList;
     QSet<QString> seen;
     bool complete = true;
 };
+
+} // namespace ResourceCheck

@@ -1,79 +1,71 @@
 #include "ResourceCheck/reading/Resources.h"
 
-#include <QDir>
-#include <QRegularExpression>
+#include "ResourceFormat/DisplaySize.h"
+#include "ResourceFormat/Language.h"
+
+namespace ResourceCheck
+{
 
 namespace
 {
 
-QSize sizeOfName(const QString& baseName)
-{
-    static const QRegularExpression pattern(QStringLiteral("\\A([1-9][0-9]{0,8})x([1-9][0-9]{0,8})\\z"));
-    const QRegularExpressionMatch match = pattern.match(baseName);
-    return match.hasMatch() ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
-}
-
-QFileInfoList filesIn(const QString& directory, const QString& pattern)
-{
-    return QDir(directory).entryInfoList(
-        {pattern}, QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
-
-QVector<DimensionFile> readDimensions(const QString& directory)
+QVector<DimensionFile> readDimensions(const QFileInfoList& files)
 {
     QVector<DimensionFile> dimensions;
-    for (const QFileInfo& file : filesIn(directory, QStringLiteral("*.ini")))
-        dimensions.append({IniFile(file.filePath()), sizeOfName(file.completeBaseName())});
+    for (const QFileInfo& file : files) {
+        const QSize size = ResourceFormat::DisplaySize::fromName(file.completeBaseName());
+        dimensions.append({IniFile(file.filePath()), size});
+    }
     return dimensions;
 }
 
-IconTable readIconTable(const QString& path)
+QVector<IconTable> readIconTables(const QStringList& paths)
 {
-    IconTable table{JsonFile(path), {}};
-    for (const JsonValue& alias : table.file.root().members) {
-        if (alias.type != JsonValue::Type::Object)
-            continue;
-        QVector<IconPath> paths;
-        for (const JsonValue& context : alias.members) {
-            if (context.type == JsonValue::Type::String)
-                paths.append({context.name, context.text, context.place});
-        }
-        table.aliases.append({alias.name, alias.namePlace, paths});
-    }
-    return table;
-}
-
-QVector<IconTable> readIconTables(const QString& directory)
-{
-    QVector<IconTable> tables{readIconTable(directory + QStringLiteral("/mapping.json"))};
-    for (const QFileInfo& file : filesIn(directory, QStringLiteral("mapping.*.json")))
-        tables.append(readIconTable(file.filePath()));
+    QVector<IconTable> tables;
+    for (const QString& path : paths)
+        tables.append(IconTable(path));
     return tables;
 }
 
-QVector<TextFile> readTexts(const QString& directory)
+QVector<TextFile> readTexts(const QFileInfoList& files)
 {
     QVector<TextFile> texts;
-    for (const QFileInfo& info : filesIn(directory, QStringLiteral("*.json"))) {
-        TextFile text{info.completeBaseName(), JsonFile(info.filePath()), {}};
-        for (const JsonValue& member : text.file.root().members) {
-            if (member.type == JsonValue::Type::String)
-                text.texts.append(member);
-        }
-        texts.append(text);
-    }
+    for (const QFileInfo& file : files)
+        texts.append(TextFile(file.filePath()));
     return texts;
 }
 
 } // namespace
 
-Resources::Resources(const QString& directory)
-    : directory(directory)
-    , colors(directory + QStringLiteral("/colors.ini"))
-    , fonts(directory + QStringLiteral("/fonts.ini"))
-    , dimensions(readDimensions(directory + QStringLiteral("/dimensions")))
-    , iconDirectory(directory + QStringLiteral("/icons"))
-    , iconTables(readIconTables(iconDirectory))
-    , texts(readTexts(directory + QStringLiteral("/texts")))
+Resources::Resources(const QString& path)
+    : directory(path)
+    , colors(directory.colorFile())
+    , fonts(directory.fontFile())
+    , dimensions(readDimensions(directory.dimensionFiles()))
+    , icons(directory.iconFolder())
+    , iconTables(readIconTables(directory.mappingTables()))
+    , texts(readTexts(directory.languageFiles()))
 {
 }
+
+QVector<IconPath> Resources::iconPaths() const
+{
+    QVector<IconPath> paths;
+    for (const IconTable& table : iconTables) {
+        for (const IconAlias& alias : table.aliases)
+            paths += alias.paths;
+    }
+    return paths;
+}
+
+const TextFile* Resources::soundText(const QString& language) const
+{
+    const QString name = ResourceFormat::Language::fileName(language);
+    for (const TextFile& text : texts) {
+        if (QFileInfo(text.file.path()).fileName() == name && text.file.isSound())
+            return &text;
+    }
+    return nullptr;
+}
+
+} // namespace ResourceCheck

@@ -2,10 +2,15 @@
 #include "ResourceCheck/rules/Rule.h"
 #include "ResourceFormat/Contrast.h"
 
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+
 namespace
 {
 
-constexpr double leastContrast = 4.5; // WCAG 2, level AA
+constexpr double minimumContrast = 4.5; // WCAG 2, level AA
 
 void checkColors(const Project& project, const Report& report)
 {
@@ -13,13 +18,13 @@ void checkColors(const Project& project, const Report& report)
     for (const IniEntry& entry : file.effectiveEntries()) {
         if (!QColor::isValidColor(entry.value)) {
             report(file.valuePlace(entry),
-                   QStringLiteral("\"%1\" is no colour that QML reads: #rgb, #rrggbb, #aarrggbb or a name of SVG")
+                   QStringLiteral("\"%1\" is not a color that QML accepts; use #rrggbb, #aarrggbb or an SVG color name")
                        .arg(entry.value));
         }
     }
 }
 
-// TextOnNAME stands on NAME, any other text on the background of its group. Nobody has to read what is disabled.
+// TextOnNAME is shown on NAME, any other text on the background of its group. Disabled text may be hard to read.
 QString backgroundKeyOf(const QString& key)
 {
     const QString onPrefix = QStringLiteral("TextOn");
@@ -39,12 +44,12 @@ void checkPair(const IniFile& file, const IniEntry& text, const IniEntry& backgr
     if (!QColor::isValidColor(text.value) || !QColor::isValidColor(background.value))
         return;
     const double ratio = ResourceFormat::Contrast::ratio(QColor(text.value), QColor(background.value));
-    if (ratio < leastContrast) {
+    if (ratio < minimumContrast) {
         report(file.valuePlace(text),
-               QStringLiteral("contrast of %1/%2 on %3/%4 is %5, readable is %6 or more")
-                   .arg(text.group, text.key, background.group, background.key)
-                   .arg(ratio, 0, 'f', 2)
-                   .arg(leastContrast));
+               QStringLiteral("%1/%2 on %3/%4: contrast %5:1 is below the WCAG AA minimum of %6:1; make one of the "
+                              "colors lighter or darker")
+                   .arg(text.group, text.key, background.group, background.key, QString::number(ratio, 'f', 2),
+                        QString::number(minimumContrast)));
     }
 }
 
@@ -59,12 +64,13 @@ void checkContrast(const Project& project, const Report& report)
     for (const auto& [textName, backgroundName] : project.contrastPairs) {
         const IniEntry* text = findColor(file, textName);
         const IniEntry* background = findColor(file, backgroundName);
-        if (text != nullptr && background != nullptr)
+        if (text != nullptr && background != nullptr) {
             checkPair(file, *text, *background, report);
-        else
+        } else {
             report({file.path()},
-                   QStringLiteral("holds no %1, whose contrast is to be checked")
+                   QStringLiteral("the color %1 of a contrast option is missing; add it or correct the option")
                        .arg(text == nullptr ? textName : backgroundName));
+        }
     }
 }
 
@@ -74,9 +80,11 @@ QVector<Rule> colorRules()
 {
     return {
         {QStringLiteral("color-invalid"), Severity::Error,
-         QStringLiteral("QML shows black, or nothing, for a text that it cannot read as a colour."), checkColors},
+         QStringLiteral("QML shows black, or nothing, in place of a value that is not a color."), checkColors},
         {QStringLiteral("color-contrast"), Severity::Warning,
-         QStringLiteral("A text with less contrast than WCAG 2 AA asks for cannot be read by many people."),
+         QStringLiteral("Many people cannot read text whose contrast is below the minimum of WCAG 2, level AA."),
          checkContrast},
     };
 }
+
+} // namespace ResourceCheck

@@ -4,6 +4,11 @@
 #include <QHash>
 #include <QMap>
 
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+
 namespace
 {
 
@@ -17,7 +22,7 @@ QVector<DimensionFile> readableDisplays(const Resources& resources)
     return displays;
 }
 
-// Where the key would be looked for: at its group, if there is one.
+// Where a key of the group belongs: at the group if it exists, otherwise anywhere in the file.
 Place placeOfGroup(const IniFile& file, const QString& group)
 {
     const QStringList keys = file.content().keys(group);
@@ -40,7 +45,7 @@ void checkKeysAreInAll(const Project& project, const Report& report)
             const auto& [group, key] = owner.key();
             if (display.file.content().find(group, key) == nullptr) {
                 report(placeOfGroup(display.file, group),
-                       QStringLiteral("%1/%2 is missing, which %3 has").arg(group, key, owner.value()));
+                       QStringLiteral("%1/%2 is missing, but %3 has it; add it").arg(group, key, owner.value()));
             }
         }
     }
@@ -53,9 +58,9 @@ void checkIntegers(const Project& project, const Report& report)
             bool isInteger = false;
             entry.value.toInt(&isInteger);
             if (!isInteger) {
-                report(
-                    dimension.file.valuePlace(entry),
-                    QStringLiteral("\"%1\" is no integer: %2/%3 will be 0").arg(entry.value, entry.group, entry.key));
+                report(dimension.file.valuePlace(entry),
+                       QStringLiteral("\"%1\" is not an integer, so %2/%3 is 0; use a whole number of pixels")
+                           .arg(entry.value, entry.group, entry.key));
             }
         }
     }
@@ -64,8 +69,10 @@ void checkIntegers(const Project& project, const Report& report)
 void checkNames(const Project& project, const Report& report)
 {
     for (const DimensionFile& dimension : project.resources.dimensions) {
-        if (!dimension.size.isValid())
-            report({dimension.file.path()}, QStringLiteral("is not named WIDTHxHEIGHT.ini"));
+        if (!dimension.size.isValid()) {
+            report({dimension.file.path()},
+                   QStringLiteral("the file name is not a display size; rename the file to WIDTHxHEIGHT.ini"));
+        }
     }
 }
 
@@ -74,8 +81,10 @@ void checkSizesDiffer(const Project& project, const Report& report)
     QHash<QPair<int, int>, QString> paths;
     for (const DimensionFile& dimension : project.resources.dimensions) {
         const QPair<int, int> size(dimension.size.width(), dimension.size.height());
-        if (dimension.size.isValid() && paths.contains(size))
-            report({dimension.file.path()}, QStringLiteral("is for the same display as %1").arg(paths.value(size)));
+        if (dimension.size.isValid() && paths.contains(size)) {
+            report({dimension.file.path()},
+                   QStringLiteral("%1 has the same display size; remove one of the two files").arg(paths.value(size)));
+        }
         paths.insert(size, dimension.file.path());
     }
 }
@@ -86,14 +95,16 @@ QVector<Rule> dimensionRules()
 {
     return {
         {QStringLiteral("dimension-missing"), Severity::Error,
-         QStringLiteral("On the display that lacks the key QML reads undefined, and the element is not laid out."),
+         QStringLiteral("On a display without the key QML reads undefined and cannot lay out the element."),
          checkKeysAreInAll},
         {QStringLiteral("dimension-not-integer"), Severity::Error,
-         QStringLiteral("A value that is no integer counts as 0, and the element vanishes."), checkIntegers},
+         QStringLiteral("A value that is not an integer counts as 0, and the element disappears."), checkIntegers},
         {QStringLiteral("dimension-name"), Severity::Error,
-         QStringLiteral("A file whose name is no display size makes the service refuse the list of all of them."),
+         QStringLiteral("If one file name is not a display size, the service answers with an error for all of them."),
          checkNames},
         {QStringLiteral("display-duplicate"), Severity::Error,
-         QStringLiteral("Of two files for one display only one is ever used."), checkSizesDiffer},
+         QStringLiteral("Only one of two files for the same display size is ever used."), checkSizesDiffer},
     };
 }
+
+} // namespace ResourceCheck

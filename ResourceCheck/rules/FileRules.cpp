@@ -1,8 +1,11 @@
-#include "Common/TextTools/LanguageDefinitions.h"
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/rules/Rule.h"
+#include "ResourceFormat/Language.h"
 
 #include <QFileInfo>
+
+namespace ResourceCheck
+{
 
 namespace
 {
@@ -11,8 +14,10 @@ void checkReadable(const Project& project, const Report& report)
 {
     const Resources& resources = project.resources;
     const auto checkFile = [&report](const auto& file) {
-        if (!file.problem().isNull())
-            report({file.path()}, QStringLiteral("cannot be read: %1").arg(file.problem()));
+        if (!file.problem().isNull()) {
+            report({file.path()},
+                   QStringLiteral("the file cannot be read: %1; add it or make it readable").arg(file.problem()));
+        }
     };
     checkFile(resources.colors);
     checkFile(resources.fonts);
@@ -22,25 +27,27 @@ void checkReadable(const Project& project, const Report& report)
         checkFile(table.file);
     for (const TextFile& text : resources.texts)
         checkFile(text.file);
-    if (resources.dimensions.isEmpty())
-        report({resources.directory + QStringLiteral("/dimensions")}, QStringLiteral("holds no WIDTHxHEIGHT.ini"));
+    if (resources.dimensions.isEmpty()) {
+        report({resources.directory.dimensionFolder()},
+               QStringLiteral("there is no dimension file; add one for each display size, named WIDTHxHEIGHT.ini"));
+    }
 }
 
-// The languages that a lookup in another one falls back to.
 void checkFallbacks(const Project& project, const Report& report)
 {
-    QStringList listed;
-    QStringList needed(LanguageDefinitions::getSecondFallbackLanguageFilename());
+    using namespace ResourceFormat;
+    QStringList existing;
+    QStringList needed(Language::fileName(Language::secondFallback()));
     for (const TextFile& text : project.resources.texts) {
-        listed.append(QFileInfo(text.file.path()).fileName());
-        if (text.language.contains(QLatin1Char('_')))
-            needed.append(text.language.section(QLatin1Char('_'), 0, 0) + QStringLiteral(".json"));
+        existing.append(QFileInfo(text.file.path()).fileName());
+        for (const QString& fallback : Language::fallbackChain(text.language).mid(1))
+            needed.append(Language::fileName(fallback));
     }
     needed.removeDuplicates();
-    for (const QString& filename : qAsConst(needed)) {
-        if (!listed.contains(filename)) {
-            report({project.resources.directory + QStringLiteral("/texts/") + filename},
-                   QStringLiteral("is missing, though other languages fall back to it"));
+    for (const QString& fileName : qAsConst(needed)) {
+        if (!existing.contains(fileName)) {
+            report({project.resources.directory.textFolder() + QLatin1Char('/') + fileName},
+                   QStringLiteral("the file is missing, but other languages fall back to it; add it"));
         }
     }
 }
@@ -51,9 +58,11 @@ QVector<Rule> fileRules()
 {
     return {
         {QStringLiteral("file-unreadable"), Severity::Error,
-         QStringLiteral("A file that cannot be read has nothing to answer with."), checkReadable},
+         QStringLiteral("Every lookup in a file that cannot be read fails."), checkReadable},
         {QStringLiteral("text-no-fallback"), Severity::Error,
-         QStringLiteral("A text that a language lacks is looked for in the languages it falls back to."),
+         QStringLiteral("A text that is missing in one language is looked up in its fallback languages."),
          checkFallbacks},
     };
 }
+
+} // namespace ResourceCheck

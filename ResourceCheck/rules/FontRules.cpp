@@ -1,24 +1,30 @@
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/rules/Rule.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
 
 #include <QFontDatabase>
 
 #include <cmath>
 
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+
 namespace
 {
 
-const QString familyKey = QStringLiteral("Family");
-constexpr double leastPixels = 9;
+constexpr double minimumPixels = 9;
 
 void checkFamilyIsGiven(const Project& project, const Report& report)
 {
+    const QString& familyKey = TarnisFontHandler::familyKey;
     const IniFile& file = project.resources.fonts;
     for (const QString& group : file.content().groups()) {
         const QStringList keys = file.content().keys(group);
         if (!keys.isEmpty() && !keys.contains(familyKey)) {
             report(file.place(file.content().find(group, keys.constFirst())->line),
-                   QStringLiteral("font group \"%1\" has sizes but no Family").arg(group));
+                   QStringLiteral("the font group \"%1\" has no %2; add %2=NAME").arg(group, familyKey));
         }
     }
 }
@@ -28,43 +34,54 @@ void checkFamilyIsInstalled(const Project& project, const Report& report)
     const IniFile& file = project.resources.fonts;
     const QStringList installed = QFontDatabase().families();
     for (const IniEntry& entry : file.effectiveEntries()) {
-        if (entry.key == familyKey && !installed.contains(entry.value, Qt::CaseInsensitive))
-            report(file.valuePlace(entry), QStringLiteral("\"%1\" is not installed here").arg(entry.value));
+        if (entry.key == TarnisFontHandler::familyKey && !installed.contains(entry.value, Qt::CaseInsensitive)) {
+            report(file.valuePlace(entry),
+                   QStringLiteral("the font family \"%1\" is not installed here; install it or use another one")
+                       .arg(entry.value));
+        }
     }
 }
 
-template <typename Check>
-void forEachSize(const IniFile& file, const Check& check)
+// The number of pixels; not a number if the value is not a font size.
+double pixelsOf(const IniEntry& entry)
 {
+    bool isNumber = false;
+    const double pixels = entry.value.toDouble(&isNumber);
+    return isNumber && std::isfinite(pixels) && pixels > 0 ? pixels : qQNaN();
+}
+
+QVector<IniEntry> sizesIn(const IniFile& file)
+{
+    QVector<IniEntry> sizes;
     for (const IniEntry& entry : file.effectiveEntries()) {
-        if (entry.key != familyKey) {
-            bool isNumber = false;
-            const double pixels = entry.value.toDouble(&isNumber);
-            check(entry, pixels, isNumber && std::isfinite(pixels) && pixels > 0);
-        }
+        if (entry.key != TarnisFontHandler::familyKey)
+            sizes.append(entry);
     }
+    return sizes;
 }
 
 void checkSizes(const Project& project, const Report& report)
 {
     const IniFile& file = project.resources.fonts;
-    forEachSize(file, [&](const IniEntry& entry, double, bool isSize) {
-        if (!isSize) {
+    for (const IniEntry& entry : sizesIn(file)) {
+        if (std::isnan(pixelsOf(entry))) {
             report(file.valuePlace(entry),
-                   QStringLiteral("\"%1\" is no size: a number of pixels above zero").arg(entry.value));
+                   QStringLiteral("\"%1\" is not a font size; use a number of pixels above 0").arg(entry.value));
         }
-    });
+    }
 }
 
 void checkSizesAreLegible(const Project& project, const Report& report)
 {
     const IniFile& file = project.resources.fonts;
-    forEachSize(file, [&](const IniEntry& entry, double pixels, bool isSize) {
-        if (isSize && pixels < leastPixels) {
+    for (const IniEntry& entry : sizesIn(file)) {
+        const double pixels = pixelsOf(entry);
+        if (pixels < minimumPixels) {
             report(file.valuePlace(entry),
-                   QStringLiteral("%1 pixels are hard to read; %2 or more are wanted").arg(pixels).arg(leastPixels));
+                   QStringLiteral("a font size of %1 px is hard to read; use at least %2 px")
+                       .arg(QString::number(pixels), QString::number(minimumPixels)));
         }
-    });
+    }
 }
 
 } // namespace
@@ -73,12 +90,15 @@ QVector<Rule> fontRules()
 {
     return {
         {QStringLiteral("font-family-missing"), Severity::Error,
-         QStringLiteral("A group without its family is drawn in whatever font the system takes."), checkFamilyIsGiven},
+         QStringLiteral("Text in a font group without a family is drawn in the default font of the system."),
+         checkFamilyIsGiven},
         {QStringLiteral("font-family-not-installed"), Severity::Warning,
-         QStringLiteral("Qt replaces a family that is not installed by another one."), checkFamilyIsInstalled},
+         QStringLiteral("Qt replaces a font family that is not installed by another one."), checkFamilyIsInstalled},
         {QStringLiteral("font-size-invalid"), Severity::Error,
-         QStringLiteral("Qt refuses a size that is not above zero, and the text keeps its default size."), checkSizes},
+         QStringLiteral("Qt rejects a size that is not above 0, and the text keeps its default size."), checkSizes},
         {QStringLiteral("font-too-small"), Severity::Warning,
-         QStringLiteral("Letters of fewer than 9 pixels lose their shapes."), checkSizesAreLegible},
+         QStringLiteral("Letters smaller than 9 pixels lose their shapes."), checkSizesAreLegible},
     };
 }
+
+} // namespace ResourceCheck

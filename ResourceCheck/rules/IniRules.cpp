@@ -3,27 +3,32 @@
 
 #include <QRegularExpression>
 
+namespace ResourceCheck
+{
+
+using ResourceFormat::IniEntry;
+using ResourceFormat::IniParser;
+
 namespace
 {
 
-template <typename Check>
-void forEachFile(const Resources& resources, const Check& check)
+Rule::Check forEachFile(void (*check)(const IniFile& file, const Report& report))
 {
-    check(resources.colors);
-    check(resources.fonts);
-    for (const DimensionFile& dimension : resources.dimensions)
-        check(dimension.file);
+    return [check](const Project& project, const Report& report) {
+        check(project.resources.colors, report);
+        check(project.resources.fonts, report);
+        for (const DimensionFile& dimension : project.resources.dimensions)
+            check(dimension.file, report);
+    };
 }
 
-void checkSyntax(const Project& project, const Report& report)
+void checkSyntax(const IniFile& file, const Report& report)
 {
-    forEachFile(project.resources, [&report](const IniFile& file) {
-        for (const IniParser::Fault& fault : file.content().faults())
-            report(file.place(fault.line), fault.reason);
-    });
+    for (const IniParser::Fault& fault : file.content().faults())
+        report(file.place(fault.line), fault.reason);
 }
 
-// The text that makes the value mean something else to other readers; empty if there is none.
+// The part of a value that readers of other INI dialects drop.
 QRegularExpressionMatch findTrap(const QString& value)
 {
     static const QRegularExpression wholeQuoted(QStringLiteral("^\"[^\"]*\"$"));
@@ -31,20 +36,23 @@ QRegularExpressionMatch findTrap(const QString& value)
     return wholeQuoted.match(value).hasMatch() ? QRegularExpressionMatch() : trap.match(value);
 }
 
-void checkTraps(const Project& project, const Report& report)
+void checkTraps(const IniFile& file, const Report& report)
 {
-    forEachFile(project.resources, [&report](const IniFile& file) {
-        for (const IniEntry& entry : file.content().entries()) {
-            const QRegularExpressionMatch trap = findTrap(file.writtenValue(entry));
-            if (!trap.hasMatch())
-                continue;
-            Place place = file.valuePlace(entry);
-            place.column += trap.capturedStart();
-            report(place,
-                   QStringLiteral("%1 is part of the value of \"%2\" here; other readers would take it off")
-                       .arg(trap.captured(), entry.key));
-        }
-    });
+    for (const IniEntry& entry : file.content().entries()) {
+        const QRegularExpressionMatch trap = findTrap(file.writtenValue(entry));
+        if (!trap.hasMatch())
+            continue;
+        Place place = file.valuePlace(entry);
+        place.column += trap.capturedStart();
+        const QString text = trap.captured();
+        report(
+            place,
+            text == QLatin1String("\"")
+                ? QStringLiteral("the value of \"%1\" includes a quotation mark; quote the whole value or none of it")
+                      .arg(entry.key)
+                : QStringLiteral("the value of \"%1\" includes \"%2\"; move a comment to its own line")
+                      .arg(entry.key, text));
+    }
 }
 
 } // namespace
@@ -53,9 +61,12 @@ QVector<Rule> iniRules()
 {
     return {
         {QStringLiteral("ini-syntax"), Severity::Error,
-         QStringLiteral("A line that is not understood is left out, and said in the log at every start."), checkSyntax},
+         QStringLiteral("A device skips a line that it does not understand and logs a warning at every start."),
+         forEachFile(checkSyntax)},
         {QStringLiteral("ini-trap"), Severity::Warning,
-         QStringLiteral("A value keeps its text exactly: comments and quotation marks within it reach the display."),
-         checkTraps},
+         QStringLiteral("A value keeps its text exactly: comments and quotation marks inside it reach the display."),
+         forEachFile(checkTraps)},
     };
 }
+
+} // namespace ResourceCheck

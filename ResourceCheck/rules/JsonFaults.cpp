@@ -2,6 +2,9 @@
 
 #include <QHash>
 
+namespace ResourceCheck
+{
+
 void reportFault(const JsonFile& file, const Report& report)
 {
     if (!file.fault().isNull())
@@ -10,10 +13,12 @@ void reportFault(const JsonFile& file, const Report& report)
 
 void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QString& kind, const Report& report)
 {
-    const QString typeName = type == JsonValue::Type::Object ? QStringLiteral("object") : QStringLiteral("string");
+    const QString typeName = type == JsonValue::Type::Object ? QStringLiteral("an object") : QStringLiteral("a string");
     for (const JsonValue& member : object.members) {
-        if (member.type != type)
-            report(member.place, QStringLiteral("the %1 \"%2\" is no %3").arg(kind, member.name, typeName));
+        if (member.type != type) {
+            report(member.place,
+                   QStringLiteral("the %1 \"%2\" is not %3; replace it with %3").arg(kind, member.name, typeName));
+        }
     }
 }
 
@@ -22,12 +27,14 @@ void reportDuplicates(const JsonValue& object, const QString& kind, const Report
     QHash<QString, QString> firstLines;
     for (const JsonValue& member : object.members) {
         const QString first = firstLines.value(member.name);
-        if (first.isNull())
+        if (first.isNull()) {
             firstLines.insert(member.name, QString::number(member.namePlace.line));
-        else
-            report(
-                member.namePlace,
-                QStringLiteral("the %1 \"%2\" is in line %3 already; a device keeps one of them, not always the last")
-                    .arg(kind, member.name, first));
+        } else {
+            report(member.namePlace,
+                   QStringLiteral("duplicate %1 \"%2\", already in line %3; remove or rename one of them")
+                       .arg(kind, member.name, first));
+        }
     }
 }
+
+} // namespace ResourceCheck

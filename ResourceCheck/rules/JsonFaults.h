@@ -3,11 +3,16 @@
 #include "ResourceCheck/reading/JsonFile.h"
 #include "ResourceCheck/rules/Rule.h"
 
-/// Reports what keeps the text from being one JSON object, if anything does.
+namespace ResourceCheck
+{
+
+/// Reports why the file is not a JSON object, if it is not.
 void reportFault(const JsonFile& file, const Report& report);
 
-/// Reports each member of the object that is not of the type. `kind` says what the members are, as in "alias".
+/// Reports each member of the object that does not have the type. `kind` is the noun for its members, such as "alias".
 void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QString& kind, const Report& report);
 
-/// Reports each member of the object whose name an earlier one has.
+/// Reports each member of the object that has the name of an earlier one.
 void reportDuplicates(const JsonValue& object, const QString& kind, const Report& report);
+
+} // namespace ResourceCheck

@@ -1,22 +1,34 @@
-#include "ResourceCheck/qml/KnownNames.h"
 #include "ResourceCheck/Project.h"
+#include "ResourceCheck/qml/KnownNames.h"
 #include "ResourceCheck/reading/ResourceNames.h"
 #include "ResourceCheck/rules/Rule.h"
 
 #include <algorithm>
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
-QString messageFor(const QmlPattern& name, const KnownNames& names, const QString& what)
+void checkSyntax(const Project& project, const Report& report)
 {
-    const QString nearest = names.nearest(name);
-    const QString message = QStringLiteral("no %1 \"%2\"").arg(what, name.text());
-    return nearest.isNull() ? message : message + QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+    if (!project.qml)
+        return;
+    for (const QmlFault& fault : project.qml->faults())
+        report(fault.place, fault.message);
 }
 
-// Part by part: two parts that are right need not fit each other in every case.
-void checkUse(const QmlUse& use, const KnownNames& names, const QString& what, const Report& report)
+QString messageFor(const QmlUse& use, const QmlPattern& name, const KnownNames& names)
+{
+    const QString nearest = names.nearest(name);
+    const QString advice = nearest.isNull() ? QStringLiteral("add it or correct the name")
+                                            : QStringLiteral("did you mean \"%1\"?").arg(nearest);
+    return QStringLiteral("unknown %1 \"%2\"; %3").arg(kindName(use.kind), name.text(), advice);
+}
+
+// Checks groups and keys separately: not every group has to have every key.
+void checkUse(const QmlUse& use, const KnownNames& names, const Report& report)
 {
     const auto exists = [&](const QmlPattern& group, const QmlPattern& key) {
         return (!group.hasText() && !key.hasText()) || names.contains(use.name(group, key));
@@ -35,15 +47,15 @@ void checkUse(const QmlUse& use, const KnownNames& names, const QString& what, c
             continue;
         }
         const bool isGroupWrong = !key.hasText() || !exists(firstGroup, QmlPattern::anything());
-        report(isGroupWrong ? firstGroup.place : key.place, messageFor(use.name(firstGroup, key), names, what));
+        report(isGroupWrong ? firstGroup.place : key.place, messageFor(use, use.name(firstGroup, key), names));
     }
     for (const QmlPattern& group : use.groups) {
         if (isSomeKnown && !hasSomeKey(group))
-            report(group.place, messageFor(use.name(group, use.keys.first()), names, what));
+            report(group.place, messageFor(use, use.name(group, use.keys.first()), names));
     }
 }
 
-void checkUses(const Project& project, const Report& report, ResourceKind kind, const QString& what)
+void checkUses(const Project& project, ResourceKind kind, const Report& report)
 {
     const ResourceNames resources(project.resources, kind);
     if (!project.qml || !resources.isComplete())
@@ -54,43 +66,16 @@ void checkUses(const Project& project, const Report& report, ResourceKind kind, 
     const KnownNames known(names);
     for (const QmlUse& use : project.qml->uses()) {
         if (use.kind == kind)
-            checkUse(use, known, what, report);
+            checkUse(use, known, report);
     }
 }
 
-void checkSyntax(const Project& project, const Report& report)
+Rule::Check unknown(const QVector<ResourceKind>& kinds)
 {
-    if (!project.qml)
-        return;
-    for (const QmlFault& fault : project.qml->faults())
-        report(fault.place, fault.message);
-}
-
-void checkColors(const Project& project, const Report& report)
-{
-    checkUses(project, report, ResourceKind::Color, QStringLiteral("colour"));
-}
-
-void checkFonts(const Project& project, const Report& report)
-{
-    checkUses(project, report, ResourceKind::FontGroup, QStringLiteral("font"));
-    checkUses(project, report, ResourceKind::FontSize, QStringLiteral("font size"));
-}
-
-void checkDimensions(const Project& project, const Report& report)
-{
-    checkUses(project, report, ResourceKind::Dimension, QStringLiteral("dimension"));
-}
-
-void checkIcons(const Project& project, const Report& report)
-{
-    checkUses(project, report, ResourceKind::Icon, QStringLiteral("icon"));
-    checkUses(project, report, ResourceKind::IconContext, QStringLiteral("icon with the context"));
-}
-
-void checkTexts(const Project& project, const Report& report)
-{
-    checkUses(project, report, ResourceKind::Text, QStringLiteral("text"));
+    return [kinds](const Project& project, const Report& report) {
+        for (const ResourceKind kind : kinds)
+            checkUses(project, kind, report);
+    };
 }
 
 } // namespace
@@ -99,22 +84,23 @@ QVector<Rule> qmlRules()
 {
     return {
         {QStringLiteral("qml-syntax"), Severity::Error,
-         QStringLiteral("A file that the QML engine cannot read shows nothing, and here its uses are not seen."),
-         checkSyntax},
+         QStringLiteral("The QML engine cannot load the file, and its lookups cannot be checked."), checkSyntax},
         {QStringLiteral("qml-unknown-color"), Severity::Error,
-         QStringLiteral("A colour that does not exist is an empty text, for which QML takes black."), checkColors},
+         QStringLiteral("The lookup of an unknown color returns an empty text, which QML shows as black."),
+         unknown({ResourceKind::Color})},
         {QStringLiteral("qml-unknown-font"), Severity::Error,
-         QStringLiteral("A font that does not exist has no family and the size 0, for which Qt takes its own."),
-         checkFonts},
+         QStringLiteral("The lookup of an unknown font returns no family or the size 0, and Qt uses its own font."),
+         unknown({ResourceKind::FontGroup, ResourceKind::FontSize})},
         {QStringLiteral("qml-unknown-dimension"), Severity::Error,
-         QStringLiteral("A dimension that does not exist is undefined, and what is laid out by it has no size."),
-         checkDimensions},
+         QStringLiteral("The lookup of an unknown dimension returns undefined, and the element has no size."),
+         unknown({ResourceKind::Dimension})},
         {QStringLiteral("qml-unknown-icon"), Severity::Error,
-         QStringLiteral("An icon that does not exist is not shown; for a context that does not exist the default one "
-                        "is."),
-         checkIcons},
+         QStringLiteral("An unknown icon is not shown; for an unknown context the default icon is shown."),
+         unknown({ResourceKind::Icon, ResourceKind::IconContext})},
         {QStringLiteral("qml-unknown-text"), Severity::Error,
-         QStringLiteral("A text that does not exist is undefined, so its place stays empty or shows that word."),
-         checkTexts},
+         QStringLiteral("The lookup of an unknown text returns undefined, and nothing or that word is shown."),
+         unknown({ResourceKind::Text})},
     };
 }
+
+} // namespace ResourceCheck

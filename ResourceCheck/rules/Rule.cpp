@@ -2,10 +2,14 @@
 
 #include <algorithm>
 
+namespace ResourceCheck
+{
+
 const QVector<Rule>& allRules()
 {
     static const QVector<Rule> rules = fileRules() + iniRules() + colorRules() + fontRules() + dimensionRules()
-        + iconRules() + textRules() + qmlRules() + unusedRules();
+        + iconTableRules() + iconFileRules() + iconImageRules() + textRules() + translationRules() + qmlRules()
+        + unusedRules();
     return rules;
 }
 
@@ -15,3 +19,5 @@ const Rule* findRule(const QString& name)
     const auto rule = std::find_if(allRules().begin(), allRules().end(), hasName);
     return rule != allRules().end() ? &*rule : nullptr;
 }
+
+} // namespace ResourceCheck

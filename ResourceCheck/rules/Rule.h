@@ -1,22 +1,30 @@
 #pragma once
 
-#include "ResourceCheck/Finding.h"
+#include "ResourceCheck/Severity.h"
+#include "ResourceCheck/reading/Place.h"
 
+#include <QString>
 #include <QVector>
 
 #include <functional>
 
+namespace ResourceCheck
+{
+
 struct Project;
 
-/// Takes the faults that a rule finds, in any order.
+/// Receives the faults that a rule finds, in any order. The message says what is wrong and, after a semicolon, what to
+/// do.
 using Report = std::function<void(const Place& place, const QString& message)>;
 
-/// One thing that the resources must not do. A rule is one entry in the list of its file, below `rules/`.
+/// Something that resources must not do. Each rule is one entry in the list of its subject below.
 struct Rule {
+    using Check = std::function<void(const Project& project, const Report& report)>;
+
     QString name;
-    Severity severity; // unless the user wants another
+    Severity severity; // the default
     QString reason;    // one sentence: what a device does with such a fault
-    void (*check)(const Project& project, const Report& report);
+    Check check;
 };
 
 /// All rules, in the order of the documentation.
@@ -30,7 +38,12 @@ QVector<Rule> iniRules();
 QVector<Rule> colorRules();
 QVector<Rule> fontRules();
 QVector<Rule> dimensionRules();
-QVector<Rule> iconRules();
+QVector<Rule> iconTableRules();
+QVector<Rule> iconFileRules();
+QVector<Rule> iconImageRules();
 QVector<Rule> textRules();
+QVector<Rule> translationRules();
 QVector<Rule> qmlRules();
 QVector<Rule> unusedRules();
+
+} // namespace ResourceCheck

@@ -8,12 +8,15 @@
 
 #include <algorithm>
 
+namespace ResourceCheck
+{
+
 namespace
 {
 
-using Patterns = QHash<QString, QmlPattern>; // by their texts, so that each is there once
+using Patterns = QHash<QString, QmlPattern>; // by their texts, so that each is listed once
 
-// What the QML asks for beyond its literals.
+// The names that the QML looks up in addition to its literals.
 Patterns patternsOf(const QmlUses& qml, ResourceKind kind)
 {
     Patterns patterns;
@@ -40,9 +43,9 @@ QRegularExpression wildcard(const QString& pattern)
                               QRegularExpression::DotMatchesEverythingOption);
 }
 
-void checkUnused(const Project& project, const Report& report, ResourceKind kind, const QString& what)
+void checkUnused(const Project& project, ResourceKind kind, const Report& report)
 {
-    if (!project.qml || !project.qml->faults().isEmpty()) // what is used where QML could not be read is not known
+    if (!project.qml || !project.qml->faults().isEmpty()) // QML that could not be read may use anything
         return;
     QVector<QRegularExpression> kept;
     for (const QString& pattern : project.kept)
@@ -57,34 +60,17 @@ void checkUnused(const Project& project, const Report& report, ResourceKind kind
     };
     const ResourceNames resources(project.resources, kind);
     for (const ResourceName& resource : resources.list()) {
-        if (!isUsed(resource))
-            report(resource.place, QStringLiteral("the %1 \"%2\" is not used").arg(what, resource.name));
+        if (!isUsed(resource)) {
+            report(resource.place,
+                   QStringLiteral("the %1 \"%2\" is not used; remove it or keep it with the keep option")
+                       .arg(kindName(kind), resource.name));
+        }
     }
 }
 
-void checkColors(const Project& project, const Report& report)
+Rule::Check unused(ResourceKind kind)
 {
-    checkUnused(project, report, ResourceKind::Color, QStringLiteral("colour"));
-}
-
-void checkFonts(const Project& project, const Report& report)
-{
-    checkUnused(project, report, ResourceKind::FontSize, QStringLiteral("font size"));
-}
-
-void checkDimensions(const Project& project, const Report& report)
-{
-    checkUnused(project, report, ResourceKind::Dimension, QStringLiteral("dimension"));
-}
-
-void checkIcons(const Project& project, const Report& report)
-{
-    checkUnused(project, report, ResourceKind::Icon, QStringLiteral("icon"));
-}
-
-void checkTexts(const Project& project, const Report& report)
-{
-    checkUnused(project, report, ResourceKind::Text, QStringLiteral("text"));
+    return [kind](const Project& project, const Report& report) { checkUnused(project, kind, report); };
 }
 
 } // namespace
@@ -93,16 +79,19 @@ QVector<Rule> unusedRules()
 {
     return {
         {QStringLiteral("unused-color"), Severity::Warning,
-         QStringLiteral("A colour that nothing shows is still read at every start."), checkColors},
+         QStringLiteral("A color that is never shown is read at every start."), unused(ResourceKind::Color)},
         {QStringLiteral("unused-font"), Severity::Warning,
-         QStringLiteral("A font size that nothing shows is still read at every start."), checkFonts},
+         QStringLiteral("A font size that is never shown is read at every start."), unused(ResourceKind::FontSize)},
         {QStringLiteral("unused-dimension"), Severity::Warning,
-         QStringLiteral("A dimension that nothing is laid out by is still read for every display and kept in memory."),
-         checkDimensions},
+         QStringLiteral("A dimension that no element uses is read for each display and kept in memory."),
+         unused(ResourceKind::Dimension)},
         {QStringLiteral("unused-icon"), Severity::Warning,
-         QStringLiteral("An icon that nothing shows takes room on the device, and its alias is read at every start."),
-         checkIcons},
+         QStringLiteral("An icon that is never shown takes up space, and its alias is read at every start."),
+         unused(ResourceKind::Icon)},
         {QStringLiteral("unused-text"), Severity::Warning,
-         QStringLiteral("A text that nothing shows is translated for nothing and kept in memory."), checkTexts},
+         QStringLiteral("A text that is never shown is translated in vain and kept in memory."),
+         unused(ResourceKind::Text)},
     };
 }
+
+} // namespace ResourceCheck

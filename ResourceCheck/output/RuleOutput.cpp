@@ -1,0 +1,31 @@
+#include "ResourceCheck/output/RuleOutput.h"
+
+#include "ResourceCheck/rules/Rule.h"
+
+namespace ResourceCheck
+{
+
+QByteArray ruleList()
+{
+    constexpr int nameWidth = 32;
+    constexpr int severityWidth = 8;
+    QByteArray list;
+    for (const Rule& rule : allRules()) {
+        list += QStringLiteral("%1%2%3\n")
+                    .arg(rule.name, -nameWidth)
+                    .arg(severityName(rule.severity), -severityWidth)
+                    .arg(rule.reason)
+                    .toUtf8();
+    }
+    return list;
+}
+
+QByteArray explanation(const Rule& rule)
+{
+    return QStringLiteral("%1 (%2)\n\n%3\n\nTo silence it: --rule %1=off, or in DIR/.tarnis-check.ini:\n"
+                          "[Rules]\n%1=off\n")
+        .arg(rule.name, severityName(rule.severity), rule.reason)
+        .toUtf8();
+}
+
+} // namespace ResourceCheck

@@ -1,0 +1,44 @@
+#include "ResourceCheck/reading/ImageFault.h"
+
+#include "ResourceCheck/MessageSilencer.h"
+
+#include <QHash>
+#include <QImage>
+#include <QImageReader>
+
+namespace ResourceCheck
+{
+
+namespace
+{
+
+// Qt reads all formats of a family with the same reader, whatever the suffix of the file.
+QByteArray familyOf(const QByteArray& format)
+{
+    static const QHash<QByteArray, QByteArray> families{
+        {"jpg", "jpeg"}, {"svgz", "svg"}, {"cur", "ico"}, {"pgm", "pbm"}, {"ppm", "pbm"}};
+    return families.value(format, format);
+}
+
+} // namespace
+
+QString imageFault(const QFileInfo& file)
+{
+    const MessageSilencer silencer; // Qt's readers log what the finding says anyway
+    static const QList<QByteArray> knownFormats = QImageReader::supportedImageFormats();
+    const QByteArray suffix = file.suffix().toLower().toLatin1();
+    QImageReader reader(file.filePath());
+    reader.setDecideFormatFromContent(true);
+    const QByteArray format = reader.format();
+    const QString formatName = QString::fromLatin1(format.toUpper());
+    if (format.isEmpty())
+        return QStringLiteral("is not an image that Qt can read; save it as SVG or PNG");
+    if (knownFormats.contains(suffix) && familyOf(suffix) != familyOf(format))
+        return QStringLiteral("is a %1 image; rename or convert it").arg(formatName);
+    // The reader parses a whole SVG file to find its size. Drawing it would take long and cannot fail.
+    const bool isDrawable = !reader.size().isEmpty() && (familyOf(format) == "svg" || !reader.read().isNull());
+    return isDrawable ? QString()
+                      : QStringLiteral("is a damaged %1 image, or has no size; save it again").arg(formatName);
+}
+
+} // namespace ResourceCheck
