@@ -63,7 +63,7 @@ QString Options::parse(const QStringList& arguments)
     addOptions(parser);
     if (!parser.parse(arguments))
         return parser.errorText();
-    const QString problem = readInformation(parser);
+    QString problem = readInformation(parser);
     if (!problem.isNull() || !information.isEmpty())
         return problem;
     QStringList problems{readPositional(parser.positionalArguments()), readFormat(parser), readSettings(parser)};
@@ -95,7 +95,7 @@ QString Options::readPositional(const QStringList& arguments)
     directory = QDir::cleanPath(arguments.value(resolves ? 1 : 0));
     if (directory.isEmpty())
         return QStringLiteral("the resource directory DIR is missing; add it");
-    const QString problem = directoryProblem(directory);
+    QString problem = directoryProblem(directory);
     if (!problem.isNull() || (question.isEmpty() && !resolves))
         return problem;
     return resolves ? questionProblem(question)

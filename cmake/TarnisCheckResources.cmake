@@ -1,20 +1,22 @@
 #[[
-Checks a resource directory with tarnis-resource-check whenever the product is built, and in its tests:
+Checks a resource directory with tarnis-resource-check in every build and in the tests of a project:
 
     tarnis_check_resources(DIR <directory> [QML <directory>...] [ARGUMENTS <argument>...])
 
 DIR        the resource directory
-QML        the directories of the front end's QML files, which are then checked against the resources
-ARGUMENTS  further options, such as --werror; what holds for every check belongs in <directory>/.tarnis-check.ini
+QML        the directories of the front end's QML files; their lookups are checked too
+ARGUMENTS  further options, such as --werror; put options for every check into <directory>/.tarnis-check.ini
 
-Relative paths start at the current source directory. The build fails on errors; it checks again after a change of the
-resources, of the QML or of the checker. Target and test have the name check-<directory>, with the directory as seen
-from the top of the sources and a "-" for whatever is no letter or digit.
+Relative paths are relative to the current source directory. Errors make the build fail. The check runs again after a
+change of the resources, the QML files or the checker. The target and the test are both named check-<directory>, where
+<directory> is relative to the top-level source directory and has "-" in place of other characters than letters and
+digits.
 ]]
 function(tarnis_check_resources)
     cmake_parse_arguments(PARSE_ARGV 0 check "" "DIR" "QML;ARGUMENTS")
     if(NOT check_DIR OR check_UNPARSED_ARGUMENTS)
-        message(FATAL_ERROR "write: tarnis_check_resources(DIR <directory> [QML <directory>...] [ARGUMENTS <argument>...])")
+        message(FATAL_ERROR "tarnis_check_resources: wrong arguments; use "
+            "tarnis_check_resources(DIR <directory> [QML <directory>...] [ARGUMENTS <argument>...])")
     endif()
     set(checker Tarnis::tarnis-resource-check)
     if(TARGET tarnis-resource-check)
