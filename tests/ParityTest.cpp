@@ -8,9 +8,6 @@
 #include "tests/support/LogRecorder.h"
 #include "tests/support/TestProcess.h"
 
-#include <QJsonDocument>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <algorithm>

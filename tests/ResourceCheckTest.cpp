@@ -1,9 +1,6 @@
 #include "tests/support/DataRows.h"
 #include "tests/support/TestProcess.h"
 
-#include <QRegularExpression>
-#include <QTemporaryDir>
-
 #include <algorithm>
 
 namespace
