@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <dlfcn.h>
 
+using namespace Benchmarks;
+
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);

@@ -5,6 +5,9 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Benchmarks;
+using namespace Tests;
+
 namespace
 {
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <malloc.h>
 
+using namespace Benchmarks;
+
 extern "C" {
 void* __libc_malloc(size_t size);
 void __libc_free(void* memory);

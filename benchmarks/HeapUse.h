@@ -2,6 +2,9 @@
 
 #include <cstdint>
 
+namespace Benchmarks
+{
+
 /// Counts what this thread takes from the heap during the object's life. Have one at a time.
 class HeapUse
 {
@@ -16,3 +19,5 @@ public:
     /// By how much the heap was larger at its largest than at the begin, in bytes.
     int64_t peakBytes() const;
 };
+
+} // namespace Benchmarks

@@ -6,6 +6,9 @@
 #include <QString>
 #include <QVector>
 
+namespace Benchmarks
+{
+
 /// The toolbar icons of the Breeze theme: under their names in the theme, as aliases of the Breeze resource directory,
 /// and as paths; sorted by name.
 struct Icon {
@@ -37,3 +40,5 @@ inline QString readBreezeTable()
         qFatal("There is no Breeze resource directory: run scripts/breeze-resources.sh");
     return QString::fromUtf8(file.readAll());
 }
+
+} // namespace Benchmarks

@@ -9,6 +9,8 @@
 #include <map>
 #include <utility>
 
+using namespace Benchmarks;
+
 namespace
 {
 

@@ -2,6 +2,9 @@
 
 #include <QFile>
 
+namespace Benchmarks
+{
+
 /// What this process alone holds in memory, in KiB.
 inline int privateMemory()
 {
@@ -15,3 +18,5 @@ inline int privateMemory()
     }
     return sum;
 }
+
+} // namespace Benchmarks

@@ -18,6 +18,8 @@
 
 #include <unistd.h>
 
+using namespace Benchmarks;
+
 namespace
 {
 

@@ -5,6 +5,9 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 
+namespace Benchmarks
+{
+
 /// The module on a bus of its own, which is the system bus of this process.
 struct Service {
     explicit Service(const QString& resources)
@@ -14,11 +17,13 @@ struct Service {
             qFatal("tarnis-module did not start");
     }
 
-    PrivateBus bus;
-    TestProcess module;
+    Tests::PrivateBus bus;
+    Tests::TestProcess module;
 };
 
 inline QDBusMessage methodCall(const QString& object, const QString& method)
 {
     return QDBusMessage::createMethodCall("Module.Tarnis", "/Tarnis/" + object, "Interface." + object, method);
 }
+
+} // namespace Benchmarks

@@ -19,6 +19,9 @@
 
 #include <memory>
 
+using namespace Benchmarks;
+using namespace Tests;
+
 namespace
 {
 

@@ -2,6 +2,8 @@
 #include "fuzz/Claims.h"
 #include "tests/support/IconMap.h"
 
+using namespace Tests;
+
 namespace
 {
 

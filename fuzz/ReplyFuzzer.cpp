@@ -7,6 +7,8 @@
 #include <fuzzer/FuzzedDataProvider.h>
 #include <private/qdbusargument_p.h>
 
+using namespace Tests;
+
 namespace
 {
 

@@ -9,6 +9,8 @@
 #include <QTemporaryDir>
 #include <QVariant>
 
+using namespace Tests;
+
 namespace
 {
 

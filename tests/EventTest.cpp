@@ -16,6 +16,9 @@
 #include <optional>
 #include <random>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -157,5 +160,7 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(EventTest)
+} // namespace Tests
+
+QTEST_MAIN(Tests::EventTest)
 #include "EventTest.moc"

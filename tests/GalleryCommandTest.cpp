@@ -5,6 +5,9 @@
 
 #include <QSettings>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -127,6 +130,11 @@ private Q_SLOTS:
     }
 };
 
-GALLERY_TEST_MAIN(GalleryCommandTest)
+} // namespace Tests
+
+int main(int argc, char* argv[])
+{
+    return Tests::runGalleryTest<Tests::GalleryCommandTest>(argc, argv);
+}
 
 #include "GalleryCommandTest.moc"

@@ -6,6 +6,9 @@
 #include <QPixmap>
 #include <QScreen>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -77,6 +80,11 @@ private Q_SLOTS:
     }
 };
 
-GALLERY_TEST_MAIN(GalleryLiveTest)
+} // namespace Tests
+
+int main(int argc, char* argv[])
+{
+    return Tests::runGalleryTest<Tests::GalleryLiveTest>(argc, argv);
+}
 
 #include "GalleryLiveTest.moc"

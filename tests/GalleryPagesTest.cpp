@@ -10,6 +10,9 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+namespace Tests
+{
+
 class GalleryPagesTest : public QObject
 {
     Q_OBJECT
@@ -96,6 +99,11 @@ private Q_SLOTS:
     }
 };
 
-GALLERY_TEST_MAIN(GalleryPagesTest)
+} // namespace Tests
+
+int main(int argc, char* argv[])
+{
+    return Tests::runGalleryTest<Tests::GalleryPagesTest>(argc, argv);
+}
 
 #include "GalleryPagesTest.moc"

@@ -13,6 +13,9 @@
 #include <QJSEngine>
 #include <QScreen>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -142,13 +145,15 @@ private Q_SLOTS:
     }
 };
 
+} // namespace Tests
+
 int main(int argc, char* argv[])
 {
-    TestProcess server("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp"});
+    Tests::TestProcess server("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp"});
     qputenv("DISPLAY", ":" + server.firstLine().toUtf8());
     qputenv("QT_QPA_PLATFORM", "xcb");
     const QGuiApplication application(argc, argv);
-    HandlerTest test;
+    Tests::HandlerTest test;
     return QTest::qExec(&test, argc, argv);
 }
 

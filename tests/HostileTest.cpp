@@ -11,6 +11,9 @@
 
 #include <optional>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -88,18 +91,20 @@ private Q_SLOTS:
     }
 };
 
-// HostileTest [SEED]: runs the test with the seed (1).
-// HostileTest serve SEED NUMBER: runs the service, from call NUMBER on.
+} // namespace Tests
+
+// Tests::HostileTest [SEED]: runs the test with the seed (1).
+// Tests::HostileTest serve SEED NUMBER: runs the service, from call NUMBER on.
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) != "serve") {
-        HostileTest test;
+        Tests::HostileTest test;
         return QTest::qExec(&test, {arguments.at(0)});
     }
     alarm(3600); // ends the service in any case
-    HostileService service{arguments.value(2).toUInt(), arguments.value(3).toInt()};
+    Tests::HostileService service{arguments.value(2).toUInt(), arguments.value(3).toInt()};
     service.connect();
     puts("ready");
     fflush(stdout);

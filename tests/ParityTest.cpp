@@ -12,6 +12,9 @@
 
 #include <algorithm>
 
+namespace Tests
+{
+
 using namespace ResourceCheck;
 
 namespace
@@ -148,5 +151,7 @@ void ParityTest::checkerAnnouncesWhatTheLibraryLogs()
     QVERIFY(count > 500);
 }
 
-QTEST_MAIN(ParityTest)
+} // namespace Tests
+
+QTEST_MAIN(Tests::ParityTest)
 #include "ParityTest.moc"

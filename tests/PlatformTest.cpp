@@ -8,6 +8,9 @@
 #include "tests/support/LogRecorder.h"
 #include "tests/support/TestProcess.h"
 
+namespace Tests
+{
+
 class PlatformTest : public QObject
 {
     Q_OBJECT
@@ -91,5 +94,7 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(PlatformTest)
+} // namespace Tests
+
+QTEST_GUILESS_MAIN(Tests::PlatformTest)
 #include "PlatformTest.moc"

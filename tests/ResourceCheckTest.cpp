@@ -3,6 +3,9 @@
 
 #include <algorithm>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -78,5 +81,7 @@ void ResourceCheckTest::call()
     QVERIFY2(expected.isEmpty() ? said.isEmpty() : said.contains(expected), said);
 }
 
-QTEST_GUILESS_MAIN(ResourceCheckTest)
+} // namespace Tests
+
+QTEST_GUILESS_MAIN(Tests::ResourceCheckTest)
 #include "ResourceCheckTest.moc"

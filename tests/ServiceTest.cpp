@@ -7,6 +7,9 @@
 
 #include <optional>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -165,5 +168,7 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ServiceTest)
+} // namespace Tests
+
+QTEST_GUILESS_MAIN(Tests::ServiceTest)
 #include "ServiceTest.moc"

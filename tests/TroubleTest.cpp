@@ -16,6 +16,9 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+namespace Tests
+{
+
 class TroubleTest : public QObject
 {
     Q_OBJECT
@@ -93,6 +96,8 @@ private Q_SLOTS:
     }
 };
 
+} // namespace Tests
+
 int main(int argc, char* argv[])
 {
     // Mounts of the commands stay invisible to others. Without its capabilities root cannot read every file either.
@@ -105,7 +110,7 @@ int main(int argc, char* argv[])
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("QT_QPA_PLATFORM", "minimal");
     const QGuiApplication application(argc, argv);
-    TroubleTest test;
+    Tests::TroubleTest test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -7,6 +7,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace Tests
+{
+
 /// A D-Bus value of any type: a basic value or an array of bytes in `basic`, otherwise the `members` of a container.
 /// libdbus writes it, because Qt writes only types that it knows.
 struct DBusValue {
@@ -70,3 +73,5 @@ private:
         dbus_message_iter_close_container(&message, &inner);
     }
 };
+
+} // namespace Tests

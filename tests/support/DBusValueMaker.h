@@ -4,6 +4,9 @@
 
 #include <QDBusMetaType>
 
+namespace Tests
+{
+
 /// Makes values from a source of numbers, which has `int below(int end)` and `qint64 bits()`.
 template <typename Source>
 struct DBusValueMaker {
@@ -107,3 +110,5 @@ private:
         return copy;
     }
 };
+
+} // namespace Tests

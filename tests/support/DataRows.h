@@ -2,12 +2,15 @@
 
 #include <QtTest>
 
+namespace Tests
+{
+
 /// Adds the rows of the file `tests/data/TEST/FUNCTION.json` to a data-driven test: an array of objects, each with a
 /// "name" of its own and exactly the given fields, whose values have the same types in every row. Anything else ends
 /// the test program, so that a misspelled field or a lost file never passes as a test with fewer checks.
 inline void addRows(QStringList fields)
 {
-    const QString test = QTest::testObject()->metaObject()->className();
+    const QString test = QString(QTest::testObject()->metaObject()->className()).section("::", -1);
     QFile data(TEST_DATA "/" + test + '/' + QTest::currentTestFunction() + ".json");
     data.open(QIODevice::ReadOnly);
     const QJsonArray rows = QJsonDocument::fromJson(data.readAll()).array();
@@ -48,3 +51,5 @@ inline QString toJson(const QVariant& value)
 {
     return QString::fromUtf8(QJsonDocument::fromVariant(value).toJson(QJsonDocument::Compact));
 }
+
+} // namespace Tests

@@ -3,6 +3,9 @@
 #include "tests/support/DBusValue.h"
 #include "tests/support/Getters.h"
 
+namespace Tests
+{
+
 /// What a getter returns and logs.
 struct Expectation {
     QString result;
@@ -62,3 +65,5 @@ private:
         return text;
     }
 };
+
+} // namespace Tests

@@ -9,6 +9,9 @@
 
 #include <optional>
 
+namespace Tests
+{
+
 /// The processes and files of one test of the gallery. At the end, the processes are killed and the files removed.
 struct GalleryFixture {
     ~GalleryFixture()
@@ -63,8 +66,4 @@ int runGalleryTest(int argc, char* argv[])
     return QTest::qExec(&test, argc, argv);
 }
 
-#define GALLERY_TEST_MAIN(Test)                                                                                        \
-    int main(int argc, char* argv[])                                                                                   \
-    {                                                                                                                  \
-        return runGalleryTest<Test>(argc, argv);                                                                       \
-    }
+} // namespace Tests

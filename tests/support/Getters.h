@@ -7,6 +7,9 @@
 
 #include <functional>
 
+namespace Tests
+{
+
 /// Both connectors.
 struct Connectors {
     const TarnisDeviceUiResourcesDBusConnector resources;
@@ -70,3 +73,5 @@ inline const Getter getters[] = {
     {"getSupportedScreenSizes", "TarnisDeviceUiResourcesDBusConnector::getSupportedDisplaySizes: ",
      "supported display sizes", [](const Connectors& all) { return all.sizes(); }},
 };
+
+} // namespace Tests

@@ -6,6 +6,9 @@
 #include <array>
 #include <random>
 
+namespace Tests
+{
+
 /// What the hostile service does when it is called.
 enum class Scenario {
     Answers,
@@ -86,3 +89,5 @@ public:
     Scenario scenario = Scenario::Answers;
     QVector<DBusValue> body;
 };
+
+} // namespace Tests

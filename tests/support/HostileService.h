@@ -4,6 +4,9 @@
 
 #include <QThread>
 
+namespace Tests
+{
+
 /// Owns the module's name on the bus and treats each call as its HostileCall says, from call `number` on.
 struct HostileService {
     uint seed;
@@ -81,3 +84,5 @@ private:
         dbus_connection_unref(bus);
     }
 };
+
+} // namespace Tests

@@ -4,6 +4,9 @@
 
 #include <QJsonDocument>
 
+namespace Tests
+{
+
 /// The mapping table that these icons are read from.
 inline QString writeMappingTable(const TarnisIconHandler::IconMap& icons)
 {
@@ -16,3 +19,5 @@ inline QString writeMappingTable(const TarnisIconHandler::IconMap& icons)
     }
     return QString::fromUtf8(QJsonDocument(table).toJson(QJsonDocument::Compact));
 }
+
+} // namespace Tests

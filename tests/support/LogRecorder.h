@@ -3,6 +3,9 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+namespace Tests
+{
+
 /// Records Qt's message log instead of printing it, for as long as it lives.
 struct LogRecorder {
     LogRecorder() { records.clear(); }
@@ -29,3 +32,5 @@ private:
     inline static QStringList records;
     const QtMessageHandler previous = qInstallMessageHandler(record);
 };
+
+} // namespace Tests

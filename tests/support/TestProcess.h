@@ -7,6 +7,9 @@
 #include <csignal>
 #include <sys/prctl.h>
 
+namespace Tests
+{
+
 /// A child process that ends when the test does, even if the test is killed. Qt starts the process of a derived class
 /// with fork(), but that of QProcess itself with a system call that the emulator does not know.
 struct Child : QProcess {
@@ -87,3 +90,5 @@ inline QString writeFile(const QString& path, const QByteArray& content)
         qFatal("cannot write %s", qPrintable(path));
     return path;
 }
+
+} // namespace Tests
