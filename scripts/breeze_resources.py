@@ -1,4 +1,4 @@
-"""Turns Breeze's icon themes and colour schemes into a resource directory: breeze_resources.py SHARE DIR"""
+"""Turns Breeze's icon themes and color schemes into a resource directory: breeze_resources.py SHARE DIRECTORY"""
 
 import json
 import pathlib

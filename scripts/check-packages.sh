@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# Makes the packages and uses them in a clean Debian 12, which lives in memory and only as long as this runs. Needs root.
+# Builds the Debian packages and uses them in a clean Debian 12: check-packages.sh
+# The clean root is kept in memory and is gone when the script ends. Needs root.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 root=build/packages/root
 if [ "${1:-}" != --in-own-namespace ]; then
@@ -8,8 +10,6 @@ if [ "${1:-}" != --in-own-namespace ]; then
   mkdir -p "$root"
   exec unshare --mount --pid --fork --kill-child --mount-proc "$0" --in-own-namespace
 fi
-
-fail() { echo "$*" >&2; exit 1; }
 
 mount -t tmpfs tmpfs "$root"
 (cd build/packages && dpkg-scanpackages . >Packages 2>scan.log) || { cat build/packages/scan.log >&2; exit 1; }
@@ -23,24 +23,11 @@ packages=(tarnis-module tarnis-tools libtarnislibrary-dev systemd-standalone-sys
 mmdebstrap --mode=root --variant=minbase --format=directory --skip=check/empty --aptopt=build/packages/apt.conf \
   --include="$(IFS=,; echo "${packages[*]}")" --dpkgopt='path-exclude=/usr/share/locale/*' \
   bookworm "$root" "${readable[@]}" "deb [trusted=yes] copy:$PWD/build/packages ./" >build/packages/root.log 2>&1 ||
-  { tail -n 40 build/packages/root.log >&2; fail "the packages cannot be installed"; }
-echo "Installed in a clean root after $SECONDS s."
+  { tail -n 40 build/packages/root.log >&2; fail "cannot install the packages"; }
+echo "Installed the packages in a clean root after $SECONDS s."
 
-cp -r examples scripts/use-installed.sh scripts/check-qml-types.sh "$root/root"
+cp -r examples scripts "$root/root"
 mount -t proc proc "$root/proc"
 mount --bind /dev "$root/dev"
-# The bus as Debian configures it, without systemd: the first call starts the service as its user.
-timeout 300 chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root bash -euo pipefail -c '
-  mkdir /run/dbus /root/work
-  chmod 700 /root/work
-  export XDG_RUNTIME_DIR=/root/work
-  exec {output}< <(exec dbus-daemon --system --nofork --nopidfile --print-address 2>/root/bus.log)
-  read -r -t 20 address <&"$output" || { cat /root/bus.log >&2; exit 1; }
-  tarnis-gallery --dump >/root/dump.json
-  grep -q "\"text://Button/Ok\": \"OK\"" /root/dump.json
-  user=$(stat -c %U /proc/"$(pgrep -x tarnis-module)")
-  [ "$user" = tarnis ] || { echo "the service runs as $user" >&2; exit 1; }
-  /root/use-installed.sh /root/examples /root/work /usr/share/tarnis
-  dpkg --purge tarnis-tools tarnis-module libtarnislibrary-dev libtarnislibrary1 >/root/purge.log ||
-    { cat /root/purge.log >&2; exit 1; }'
-echo "Packages installed and of use in a clean Debian 12 after $SECONDS s."
+timeout 300 chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root /root/scripts/use-packages.sh
+echo "The packages work in a clean Debian 12: $SECONDS s."

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds for a 64-bit ARM device, and runs the tests of library and service in an emulator: cross.sh
-# Makes the sysroot first, once, from Debian's packages: build/sysroot-aarch64.
+# Builds for a 64-bit ARM device and runs the tests of library and service in an emulator: cross.sh
+# The first run makes the sysroot build/sysroot-aarch64 from Debian's packages.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh --cross
 
@@ -14,7 +15,7 @@ if [ ! -d "$sysroot" ]; then
   mmdebstrap --variant=extract --architectures=arm64 --format=directory --aptopt="$sysroot.conf" \
     --include=qtdeclarative5-private-dev,libdbus-1-dev bookworm "$sysroot.new" >"$sysroot.log" 2>&1 ||
     { tail -n 40 "$sysroot.log" >&2; exit 1; }
-  # moc and its kind run on this machine.
+  # moc and the other Qt tools run on this machine.
   rm -rf "$sysroot.new/usr/lib/qt5/bin"
   ln -s /usr/lib/qt5/bin "$sysroot.new/usr/lib/qt5/bin"
   find "$sysroot.new/usr/lib/aarch64-linux-gnu" -lname '/*' -printf '%p %l\n' |

@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# Formats the sources; with --check it only says which are not formatted.
+# Formats the C++ sources: format.sh [--check]
+# With --check it only reports those that are not formatted.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 options=(-i)
 [ "${1:-}" = --check ] && options=(--dry-run --Werror)

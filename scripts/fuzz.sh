@@ -1,37 +1,40 @@
 #!/usr/bin/env bash
-# Feeds the readers of what others write with made-up input, after all that failed before: fuzz.sh [SECONDS]
-# Each fuzzer runs for SECONDS (60), two at a time. An input that fails is saved under build/fuzz/failures/.
+# Runs the fuzzers of the code that reads foreign input: fuzz.sh [SECONDS]
+# Each fuzzer first replays the inputs that failed earlier and then runs for SECONDS (60), two at a time. An input that
+# fails is saved below build/fuzz/failures/.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 export SECONDS_EACH=${1:-60} QT_HASH_SEED=0
 export ASAN_OPTIONS=quarantine_size_mb=16:malloc_context_size=8
-fuzzers=(IniFuzzer MappingTableFuzzer TextCatalogueFuzzer ReplyFuzzer)
+mapfile -t fuzzers < <(basename -s .cpp fuzz/*Fuzzer.cpp)
 
 ./scripts/install-dependencies.sh --lint
 ./scripts/build.sh fuzz fuzzers
 python3 fuzz/seeds.py resources build/fuzz/corpus
 shared_memory=/dev/shm
 [ -w "$shared_memory" ] || shared_memory=/tmp
-TMPDIR=$(mktemp -d "$shared_memory/fuzz.XXXXXX")
-export TMPDIR
-trap 'rm -rf "$TMPDIR"' EXIT
+work=$(mktemp -d "$shared_memory/fuzz.XXXXXX")
+export TMPDIR=$work
 
 fuzz() {
   local name=$1 log=build/fuzz/$1.log failures=build/fuzz/failures/$1 regressions=() dictionary=()
   mkdir -p "$failures"
   local options=(-artifact_prefix="$failures/" -timeout=10 -rss_limit_mb=2048)
-  # Qt loses memory on a JSON text that breaks off within an object; its readers can do nothing about it.
+  # Qt leaks memory on a JSON text that ends within an object; code that uses Qt cannot prevent it.
   [[ $name = IniFuzzer || $name = ReplyFuzzer ]] || ASAN_OPTIONS+=:detect_leaks=0
   [ ! -f "fuzz/$name.dict" ] || dictionary=(-dict="fuzz/$name.dict")
   [ ! -d "fuzz/regressions/$name" ] || regressions=("fuzz/regressions/$name"/*)
-  { [ ${#regressions[@]} -eq 0 ] || "build/fuzz/fuzz/$name" "${options[@]}" "${regressions[@]}"; } >"$log" 2>&1 &&
-    "build/fuzz/fuzz/$name" "${options[@]}" "${dictionary[@]}" -max_total_time="$SECONDS_EACH" -max_len=512 \
-      -print_final_stats=1 "build/fuzz/corpus/$name" >>"$log" 2>&1 || {
+  if ! {
+    { [ ${#regressions[@]} -eq 0 ] || "build/fuzz/fuzz/$name" "${options[@]}" "${regressions[@]}"; } >"$log" 2>&1 &&
+      "build/fuzz/fuzz/$name" "${options[@]}" "${dictionary[@]}" -max_total_time="$SECONDS_EACH" -max_len=512 \
+        -print_final_stats=1 "build/fuzz/corpus/$name" >>"$log" 2>&1
+  }; then
     tail -n 60 "$log"
     echo "$name failed. The input was saved: $(grep -o 'Test unit written to .*' "$log" | tail -n 1 | cut -d ' ' -f 5)"
-    echo "Keep it: copy it to fuzz/regressions/$name/ under a name that says what is wrong with it."
+    echo "Copy it to fuzz/regressions/$name/ under a name that describes the fault, so that it is replayed."
     return 1
-  }
+  fi
   awk -v name="$name" '
     /inline 8-bit counters\):/ { gsub(/[^0-9]/, "", $5); edges = $5 }
     $2 == "DONE" { for (i = 1; i < NF; ++i) if ($i == "cov:") covered = $(i + 1) }
@@ -40,4 +43,5 @@ fuzz() {
     END { printf "%s: %d inputs, %d per second, %d of %d edges\n", name, inputs, rate, covered, edges }' "$log"
 }
 export -f fuzz
+# shellcheck disable=SC2016 # the shell that xargs starts expands it
 printf '%s\n' "${fuzzers[@]}" | xargs -n 1 -P 2 bash -euo pipefail -c 'fuzz "$1"' fuzz

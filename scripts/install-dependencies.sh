@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing:
 # install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs] [--package] [--cross]
-# --lint adds what CI needs besides: the second compiler, its fuzzers, the formatter and the linter.
-# --docs adds what makes the reference of the headers.
-# --package adds what makes and checks the packages, and the QML checker that reads the installed types.
+# --lint adds the second compiler with its fuzzing library, the formatter, the linters and the spelling checker.
+# --benchmark adds the benchmark library, the libraries to compare with, and the tools that count and plot.
+# --valgrind adds valgrind.
+# --docs adds the generator of the reference.
+# --package adds the tools that build and check packages, and the QML linter that reads the installed types.
 # --cross adds the compiler and the emulator for 64-bit ARM.
-# --valgrind adds valgrind; --benchmark adds the benchmarks' library, what they compare with, and what counts and draws.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 
 packages=(
   g++ cmake ninja-build git ca-certificates
@@ -17,7 +19,7 @@ packages=(
 )
 for option in "$@"; do
   case $option in
-    --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy qtbase5-private-dev) ;;
+    --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy codespell shellcheck qtbase5-private-dev) ;;
     --package) packages+=(dpkg-dev file lintian mmdebstrap pahole qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
     --docs) packages+=(doxygen) ;;
     --cross) packages+=(g++-aarch64-linux-gnu qemu-user mmdebstrap) ;;
@@ -26,7 +28,7 @@ for option in "$@"; do
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev
       strace valgrind libc6-dbg binutils python3-matplotlib
     ) ;;
-    *) echo "Unknown option: $option" >&2; exit 2 ;;
+    *) echo "unknown option: $option; see $0 --help" >&2; exit 2 ;;
   esac
 done
 
@@ -38,7 +40,7 @@ done
 
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
-  command -v sudo >/dev/null || { echo "Missing packages: ${missing[*]}. Run this script as root, or install sudo." >&2; exit 1; }
+  command -v sudo >/dev/null || fail "missing packages: ${missing[*]}. Run this script as root or install sudo."
   as_root=(sudo)
 fi
 echo "Installing: ${missing[*]}"

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian packages in build/packages, and has lintian read them.
+# Builds the Debian packages in build/packages and checks them with lintian: packages.sh
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh --package
 ./scripts/build.sh release
@@ -9,7 +10,7 @@ mkdir -p build/packages
 (cd build/release && cpack -G DEB -B ../packages) >build/packages/cpack.log 2>&1 ||
   { cat build/packages/cpack.log >&2; exit 1; }
 rm -rf build/packages/_CPack_Packages
-# They are not for Debian's archive, and nobody chose a licence; the calls of ldconfig are CPack's.
+# The packages are not meant for Debian's archive and have no license yet; CPack writes the calls of ldconfig.
 lintian --allow-root --fail-on error build/packages/*.deb \
   --suppress-tags initial-upload-closes-no-bugs,copyright-without-copyright-notice,maintscript-calls-ldconfig
 ls build/packages/*.deb

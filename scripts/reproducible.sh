@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Builds the library once more, from a copy of the sources in another folder: it must be the same, byte for byte.
+# Checks that the library does not depend on the folder where it is built: reproducible.sh
+# Builds it again from a copy of the sources in another folder and compares the bytes.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh
 ./scripts/build.sh release TarnisLibrary
-work=$(mktemp -d -p /tmp)
-trap 'rm -rf "$work"' EXIT
+create_work_folder
 
 mkdir "$work/elsewhere"
 tar -c --exclude=./build --exclude=./.git . | tar -x -C "$work/elsewhere"
@@ -13,6 +14,6 @@ tar -c --exclude=./build --exclude=./.git . | tar -x -C "$work/elsewhere"
 library=build/release/TarnisLibrary/libTarnisLibrary.so
 if ! cmp "$library" "$work/elsewhere/$library"; then
   diff <(strings "$library") <(strings "$work/elsewhere/$library") >&2 || true
-  exit 1
+  fail "the library depends on the folder where it is built"
 fi
-echo "The same bytes, wherever it is built: $(sha256sum <"$library" | cut -c 1-16)..."
+echo "Both folders give the same bytes: $(sha256sum <"$library" | cut -c 1-16)..."

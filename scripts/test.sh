@@ -1,16 +1,19 @@
 #!/usr/bin/env bash
-# Builds everything and runs every test: test.sh [PRESET] (dev: with sanitizers)
-# test.sh --valgrind runs the tests of the library under valgrind memcheck instead; that takes some minutes.
+# Builds everything and runs all tests: test.sh [PRESET] | --valgrind
+# The default preset is dev, with sanitizers. --valgrind runs the tests of the library under memcheck instead, which
+# takes some minutes.
 set -euo pipefail
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 preset=${1:-dev}
 if [ "$preset" = --valgrind ]; then
   ./scripts/install-dependencies.sh --valgrind
-  ./scripts/build.sh valgrind
-  for test in HandlerTest TroubleTest ServiceTest HostileTest; do
+  tests=(HandlerTest TroubleTest ServiceTest HostileTest)
+  ./scripts/build.sh valgrind "${tests[@]}" tarnis-module
+  for test in "${tests[@]}"; do
     echo "== $test"
-    # valgrind cannot follow what the compiler of regular expressions makes.
-    QT_ENABLE_REGEXP_JIT=0 QT_QPA_PLATFORM=minimal QT_FONT_DPI=96 QTEST_FUNCTION_TIMEOUT=3600000 \
+    # valgrind cannot follow the code that the compiler of regular expressions generates.
+    QT_ENABLE_REGEXP_JIT=0 QT_QPA_PLATFORM=minimal QT_FONT_DPI=96 QTEST_FUNCTION_TIMEOUT=3600000 timeout 3600 \
       valgrind --quiet --error-exitcode=99 --suppressions=tests/support/valgrind.supp \
       --leak-check=full --show-leak-kinds=definite --errors-for-leak-kinds=definite "build/valgrind/tests/$test"
   done

@@ -1,56 +1,55 @@
 #!/usr/bin/env bash
-# Uses an installed tree as another project would: use-installed.sh EXAMPLES WORK_DIRECTORY DATA_DIRECTORY
-# CMAKE_PREFIX_PATH and PKG_CONFIG_PATH say where the tree lies; on the system bus the service publishes its resources.
+# Uses an installed tree as another project would: use-installed.sh EXAMPLES WORK_FOLDER DATA_FOLDER
+# CMAKE_PREFIX_PATH and PKG_CONFIG_PATH name the tree; a service on the system bus publishes the tree's resources.
 set -euo pipefail
-examples=$1 work=$2 imports=$3/qml resources=$3/resources
 scripts=$(dirname "$0")
+. "$(dirname "$0")/lib/common.sh"
+examples=$1 folder=$2 imports=$3/qml resources=$3/resources
+process_log=$folder/host.log
 export QT_FONT_DPI=96 QT_QPA_PLATFORM=minimal QT_QUICK_BACKEND=software
-export QML2_IMPORT_PATH=$imports # the types must not stand in the way of the program's own module
+export QML2_IMPORT_PATH=$imports # the installed types must not hide the module that the program registers
 
-fail() { echo "$*" >&2; exit 1; }
 expect() { # EXPECTED FOUND
   [ "$1" = "$2" ] || fail "expected:"$'\n'"$1"$'\n'"found:"$'\n'"$2"
 }
 
 for example in host own-platform; do
-  { cmake -S "$examples/$example" -B "$work/$example" -G Ninja -DCMAKE_EXPORT_COMPILE_COMMANDS=ON &&
-    cmake --build "$work/$example"; } >"$work/$example.log" 2>&1 ||
-    { cat "$work/$example.log" >&2; fail "$example cannot be built"; }
+  { cmake -S "$examples/$example" -B "$folder/$example" -G Ninja -DCMAKE_EXPORT_COMPILE_COMMANDS=ON &&
+    cmake --build "$folder/$example"; } >"$folder/$example.log" 2>&1 ||
+    { cat "$folder/$example.log" >&2; fail "cannot build the example $example"; }
 done
-cat >"$work/color.cpp" <<'END'
+cat >"$folder/color.cpp" <<'CPP'
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include <cstdio>
 int main(int, char* arguments[]) { std::puts(qPrintable(TarnisColorHandler(arguments[1]).getColor("Day", "Text"))); }
-END
+CPP
 read -ra flags < <(pkg-config --cflags --libs 'tarnislibrary >= 1.0')
-c++ -std=c++17 -fPIC -o "$work/color" "$work/color.cpp" "${flags[@]}" \
+c++ -std=c++17 -fPIC -o "$folder/color" "$folder/color.cpp" "${flags[@]}" \
   "-Wl,-rpath,$(pkg-config --variable=libdir tarnislibrary)"
 
-expect '#1f2a37' "$("$work/color" "$resources/colors.ini")"
+expect '#1f2a37' "$(timeout 60 "$folder/color" "$resources/colors.ini")"
 expect "#1f2a37
 Inter
 48
 Abbrechen
-$resources/icons/night/home.svg" "$(timeout 60 "$work/own-platform/own-platform" 2>&1)"
-# QML's console is where the host says that it is there; it would go on.
-exec {output}< <(exec timeout 60 "$work/host/host" 2>&1)
-host=$!
-trap 'kill "$host" 2>/dev/null || true' EXIT
-read -r -t 20 line <&"$output" || fail "the host says nothing"
+$resources/icons/night/home.svg" "$(timeout 60 "$folder/own-platform/own-platform" 2>&1)"
+# The host prints its answers with console.log, which goes to stderr, and keeps running.
+start bash -c "exec '$folder/host/host' 2>&1"
 expect 'qml: #1f2a37 Inter 15 48 OK' "$line"
 
-mkdir -p "$work/product"
-cat >"$work/product/CMakeLists.txt" <<END
+mkdir -p "$folder/product"
+cat >"$folder/product/CMakeLists.txt" <<CMAKE
 cmake_minimum_required(VERSION 3.25)
 project(product LANGUAGES CXX)
 find_package(TarnisLibrary 1.0 CONFIG REQUIRED)
 enable_testing()
 tarnis_check_resources(DIR $resources QML $(realpath "$examples/host") ARGUMENTS --rule unused-icon=error)
-END
-cmake -S "$work/product" -B "$work/product/build" -G Ninja >"$work/product.log"
-if cmake --build "$work/product/build" >"$work/product.log" 2>&1; then
-  fail "the check of resources finds nothing"
+CMAKE
+cmake -S "$folder/product" -B "$folder/product/build" -G Ninja >"$folder/product.log"
+if cmake --build "$folder/product/build" >"$folder/product.log" 2>&1; then
+  fail "tarnis_check_resources() misses an unused icon"
 fi
-grep -q 'mapping.json.*error: the icon "settings" is not used' "$work/product.log" || { cat "$work/product.log"; exit 1; }
+grep -q 'mapping.json.*error: the icon "settings" is not used' "$folder/product.log" ||
+  { cat "$folder/product.log" >&2; fail "tarnis_check_resources() does not report the unused icon"; }
 
 "$scripts/check-qml-types.sh" "$imports" "$examples/host/main.qml"
