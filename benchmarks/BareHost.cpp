@@ -1,4 +1,4 @@
-// A host without the library: prints its private memory, and how long the library named takes to load.
+// A host without the library: prints its private memory, and how long it takes to load LIBRARY: BareHost LIBRARY
 #include "benchmarks/PrivateMemory.h"
 
 #include <QElapsedTimer>

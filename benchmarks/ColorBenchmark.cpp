@@ -35,7 +35,7 @@ QVector<Name> readNames()
     return names;
 }
 
-// Looks up every colour of the sample device in turn.
+// Looks up all colors of the sample device in turn.
 template <typename Lookup>
 void lookUp(benchmark::State& state, Lookup lookup)
 {
@@ -93,11 +93,11 @@ void hitGKeyFile(benchmark::State& state)
 {
     QFile source(colorFile);
     source.open(QIODevice::ReadOnly);
-    QByteArray content = source.readAll().replace("\n;", "\n#"); // GKeyFile's comments begin with # only
+    QByteArray content = source.readAll().replace("\n;", "\n#"); // GKeyFile accepts only # comments
     content.replace(0, 1, "#");
     GKeyFile* file = g_key_file_new();
     if (!g_key_file_load_from_data(file, content.constData(), gsize(content.size()), G_KEY_FILE_NONE, nullptr))
-        qFatal("GKeyFile cannot read the colours");
+        qFatal("GKeyFile cannot read the colors");
     lookUp(state, [file](const Name& name) {
         gchar* value = nullptr;
         if (g_key_file_has_key(file, name.groupUtf8.constData(), name.keyUtf8.constData(), nullptr))
@@ -109,14 +109,14 @@ void hitGKeyFile(benchmark::State& state)
 }
 BENCHMARK(hitGKeyFile)->Name("hit/GKeyFile");
 
-// With a handler that does nothing, what remains is the making of the record.
+// The message handler does nothing, so that only the creation of the record is measured.
 template <typename Lookup>
 void miss(benchmark::State& state, Lookup lookup)
 {
     qInstallMessageHandler(
         [](QtMsgType, const QMessageLogContext&, const QString& text) { benchmark::DoNotOptimize(text.constData()); });
     const QString group = QStringLiteral("Day");
-    const QString key = QStringLiteral("NoSuchColour");
+    const QString key = QStringLiteral("NoSuchColor");
     for (auto _ : state)
         benchmark::DoNotOptimize(lookup(group, key));
     qInstallMessageHandler(nullptr);

@@ -17,7 +17,7 @@ using namespace Tests;
 namespace
 {
 
-// One file of 50 to 100,000 keys, 50 in a group, in the form in which designers write it.
+// A file of 50 to 100,000 keys with 50 keys in each group, written as designers write it.
 class DimensionFile
 {
 public:
@@ -35,7 +35,7 @@ public:
 
     const QString& path() const { return filePath; }
 
-    // QSettings keeps the files that it has parsed until their time changes.
+    // QSettings parses a file again only after its time has changed.
     void touch()
     {
         const timespec times[] = {{0, UTIME_OMIT}, {++time, 0}};

@@ -5,7 +5,7 @@
 namespace Benchmarks
 {
 
-/// Counts what this thread takes from the heap during the object's life. Have one at a time.
+/// Counts what this thread allocates from the heap during the object's life. Only one object may exist at a time.
 class HeapUse
 {
 public:
@@ -16,7 +16,7 @@ public:
 
     int64_t allocations() const;
 
-    /// By how much the heap was larger at its largest than at the begin, in bytes.
+    /// The largest growth of the heap since the object was created, in bytes.
     int64_t peakBytes() const;
 };
 

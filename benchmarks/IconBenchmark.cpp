@@ -21,7 +21,7 @@ const QVector<Icon>& icons()
     return icons;
 }
 
-// The first `count` icons in turn.
+// Looks up the first `count` icons in turn.
 template <typename Lookup>
 void lookUpAll(benchmark::State& state, int count, Lookup lookup)
 {
@@ -34,7 +34,7 @@ void lookUpAll(benchmark::State& state, int count, Lookup lookup)
     }
 }
 
-// Icons that were all asked for before; QIcon keeps a hundred.
+// Every icon was looked up before. QIcon keeps the last hundred.
 template <typename Lookup>
 void again(benchmark::State& state, Lookup lookup)
 {
@@ -46,7 +46,7 @@ void again(benchmark::State& state, Lookup lookup)
 
 constexpr int firstTimes = 300;
 
-// Each icon for the first time, but one: what is read once is read with that.
+// Looks up each icon for the first time. One lookup before them reads what is read only once.
 template <typename Lookup>
 void first(benchmark::State& state, Lookup lookup)
 {
@@ -56,7 +56,7 @@ void first(benchmark::State& state, Lookup lookup)
 
 void useBreezeOfQt()
 {
-    QIcon::setThemeSearchPaths({breezeIcons}); // forgets what was read of the theme
+    QIcon::setThemeSearchPaths({breezeIcons}); // discards what was read of the theme
     QIcon::setThemeName(QStringLiteral("breeze"));
 }
 
@@ -88,7 +88,7 @@ void againExists(benchmark::State& state)
 }
 BENCHMARK(againExists)->Name("again/exists");
 
-// The thirty icons of the sample device.
+// Looks up the thirty icons of the sample device.
 template <typename Lookup>
 void sample(benchmark::State& state, Lookup lookup)
 {
@@ -154,7 +154,7 @@ void firstKIconLoader(benchmark::State& state)
 }
 BENCHMARK(firstKIconLoader)->Name("first/KIconLoader")->Iterations(firstTimes);
 
-// One icon, with all that has to be read before.
+// The first icon of a process, including everything that must be read before it.
 
 void startLibrary(benchmark::State& state)
 {

@@ -9,8 +9,7 @@
 namespace Benchmarks
 {
 
-/// The toolbar icons of the Breeze theme: under their names in the theme, as aliases of the Breeze resource directory,
-/// and as paths; sorted by name.
+/// A toolbar icon of the Breeze theme: its name in the theme, its alias in the Breeze resource directory, and its path.
 struct Icon {
     QString name;
     QString alias;
@@ -19,6 +18,7 @@ struct Icon {
 
 inline const QString breezeIcons = QStringLiteral(BREEZE "/icons");
 
+/// The first thousand icons, sorted by name.
 inline QVector<Icon> readIcons()
 {
     QVector<Icon> icons;

@@ -44,7 +44,7 @@ double secondsSince(std::chrono::steady_clock::time_point begin)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-// The end of the map is not timed: a device keeps it.
+// The destruction of the map is not timed, because a device keeps the map.
 void library(benchmark::State& state)
 {
     const TarnisIconHandler handler(QString(), QStringLiteral("{}"));
@@ -76,7 +76,7 @@ void json(benchmark::State& state)
     }
 }
 
-// What no reader into these maps can do without: the parsing, and the maps made of strings that are all at hand.
+// The least that any reader into these maps takes: parsing, and filling the maps from strings that already exist.
 void least(benchmark::State& state)
 {
     const QByteArray& text = table(state);

@@ -5,7 +5,7 @@
 namespace Benchmarks
 {
 
-/// What this process alone holds in memory, in KiB.
+/// The memory that this process does not share with others, in KiB.
 inline int privateMemory()
 {
     QFile file(QStringLiteral("/proc/self/smaps_rollup"));

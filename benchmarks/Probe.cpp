@@ -1,4 +1,5 @@
-// Does one thing COUNT times between two marks, for strace and callgrind to count what it costs: Probe SUBJECT COUNT
+// Does one thing COUNT times between two marks, so that strace and callgrind count its cost: Probe SUBJECT COUNT
+// [SHIFT] SHIFT moves the heap by that many bytes.
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
@@ -23,7 +24,7 @@ using namespace Benchmarks;
 namespace
 {
 
-// Callgrind collects within this function, strace's records begin and end with a write to nowhere.
+// Callgrind collects within this function; a write to nowhere marks its begin and end for strace.
 [[gnu::noinline]] void measured(const std::function<void(int)>& subject, int count)
 {
     [[maybe_unused]] auto begin = write(-1, "begin", 5);
@@ -43,7 +44,7 @@ std::map<std::string, std::function<void(int)>> makeSubjects()
 {
     static const TarnisColorHandler colors(RESOURCES "/colors.ini", nullptr);
     static const TarnisFontHandler fonts(RESOURCES "/fonts.ini", nullptr);
-    // A path costs by its length: the count must not depend on where the repository lies.
+    // The cost of a path depends on its length, and must not depend on where the repository is.
     static const QTemporaryDir directory(QStringLiteral("/tmp/tarnis-XXXXXX"));
     QFile::link(breezeIcons, directory.filePath(QStringLiteral("icons")));
     static const TarnisIconHandler icons(directory.filePath(QStringLiteral("icons")), readBreezeTable());
@@ -77,16 +78,17 @@ std::map<std::string, std::function<void(int)>> makeSubjects()
 
 int main(int argc, char* argv[])
 {
+    const QByteArray shift(argc == 4 ? QByteArray(argv[3]).toInt() : 0, '-');
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     KIconTheme::forceThemeForTests("breeze");
     QIcon::setThemeSearchPaths({breezeIcons});
     QIcon::setThemeName("breeze");
     const auto subjects = makeSubjects();
-    const auto subject = subjects.find(argc == 3 ? argv[1] : "");
+    const auto subject = subjects.find(argc >= 3 ? argv[1] : "");
     if (subject == subjects.end())
-        qFatal("usage: Probe SUBJECT COUNT");
-    subject->second(0); // what is read once is read before
+        qFatal("usage: Probe SUBJECT COUNT [SHIFT]");
+    subject->second(0); // reads what is read once
     measured(subject->second, QByteArray(argv[2]).toInt());
     return 0;
 }

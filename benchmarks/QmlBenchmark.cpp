@@ -23,7 +23,7 @@ struct Handlers {
         {{QSize(1280, 800), QStringLiteral(RESOURCES "/dimensions/1280x800.ini")}}};
 };
 
-// A page of a thousand rectangles with these two expressions.
+// A page of a thousand rectangles with these two expressions for height and color.
 QByteArray page(const QByteArray& height, const QByteArray& color)
 {
     return "import QtQuick 2.15\nimport Device 1.0\n"
@@ -33,7 +33,7 @@ QByteArray page(const QByteArray& height, const QByteArray& color)
         + height + "; color: " + color + " } } }";
 }
 
-// From the compiled page to its first frame.
+// Measures the time from the compiled page to its first frame.
 void firstFrame(benchmark::State& state, const QByteArray& height, const QByteArray& color)
 {
     static Handlers handlers;
@@ -63,14 +63,14 @@ void registerBenchmarks()
     const QByteArray constantColor = '"' + Handlers().colors.getColor("Day", "Accent").toUtf8() + '"';
     const QByteArray call = "Colors.getColor(\"Day\", \"Accent\")";
     const QByteArray binding = "Dimensions.uiElementDimensions[\"Spacing/small\"]";
-    const QByteArray keptBinding = "page.dimensions[\"Spacing/small\"]";
+    const QByteArray cachedBinding = "page.dimensions[\"Spacing/small\"]";
     const auto add = [](const char* name, const QByteArray& height, const QByteArray& color) {
         benchmark::RegisterBenchmark(name, firstFrame, height, color)->Unit(benchmark::kMillisecond);
     };
     add("constants", constantHeight, constantColor);
     add("calls of getColor", constantHeight, call);
     add("bindings", binding, constantColor);
-    add("bindings on a kept map", keptBinding, constantColor);
+    add("bindings on a cached map", cachedBinding, constantColor);
     add("bindings and calls", binding, call);
 }
 

@@ -8,7 +8,7 @@
 namespace Benchmarks
 {
 
-/// The module on a bus of its own, which is the system bus of this process.
+/// The service on a private bus, which is the system bus of this process.
 struct Service {
     explicit Service(const QString& resources)
         : module(TARNIS_MODULE, {"--resources", resources})

@@ -25,7 +25,7 @@ using namespace Tests;
 namespace
 {
 
-// The sample device with a thousand icons, and the service that publishes it.
+// The sample device, extended to a thousand icons, and the service that publishes it.
 class Device
 {
 public:
@@ -144,7 +144,7 @@ void parseJson(const QString& path)
     benchmark::DoNotOptimize(QJsonDocument::fromJson(read(path)));
 }
 
-// What no implementation can do without: five calls, and the files read and parsed.
+// The bare parts, which every implementation needs: five calls, and reading and parsing the files.
 void bare(benchmark::State& state)
 {
     device();
@@ -159,7 +159,7 @@ void bare(benchmark::State& state)
 }
 BENCHMARK(bare)->UseRealTime();
 
-// Where the time goes.
+// The parts of a start, measured separately.
 
 template <typename Part>
 void measure(const char* name, Part part)
@@ -187,7 +187,7 @@ const bool areRegistered = [] {
     measure("part/icon handler", [](const Connectors&, const Answers& answers) {
         const TarnisIconHandler handler(answers.iconBase, answers.mappingTable);
     });
-    measure("part/text catalogue and handler", [](const Connectors&, const Answers&) { const Texts texts; });
+    measure("part/text manager and handler", [](const Connectors&, const Answers&) { const Texts texts; });
     measure("part/bare calls", [](const Connectors&, const Answers&) { callAll(); });
     return true;
 }();

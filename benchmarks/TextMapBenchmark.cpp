@@ -10,7 +10,7 @@ using namespace Tests;
 namespace
 {
 
-// A catalogue of English and German texts, as a device has it.
+// A folder of English and German texts, as on a device.
 class Texts
 {
 public:

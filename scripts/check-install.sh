@@ -3,6 +3,7 @@
 # With --lint, clang-tidy also reads the examples.
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
+. "$(dirname "$0")/lib/clang-tidy.sh"
 cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh --package
 ./scripts/build.sh release
@@ -26,8 +27,7 @@ QML2_IMPORT_PATH=$prefix/share/tarnis/qml timeout 60 "$prefix/bin/tarnis-gallery
 
 if [ "${1:-}" = --lint ]; then
   for example in host own-platform; do
-    printf '%s\0' "$work/examples/$example"/*.cpp |
-      xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet --config-file=.clang-tidy -p "$work/$example"
+    printf '%s\0' "$work/examples/$example"/*.cpp | run_clang_tidy --config-file=.clang-tidy -p "$work/$example"
   done
 fi
 echo "Other projects can use the installed and moved tree."

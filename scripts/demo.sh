@@ -29,5 +29,5 @@ take device-night-ja.png --display 800x480 --language ja --context nightMode
 for page in Colors Fonts Dimensions Icons Texts; do
   take "${page,,}.png" --page "$page"
 done
-timeout 60 "$gallery" --dump >build/demo/lookups.json
+timeout 60 "$gallery" --dump >build/demo/lookups.json 2>>"$process_log"
 echo "build/demo/lookups.json"

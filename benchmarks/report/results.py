@@ -8,7 +8,8 @@ def join(*parts):
 
 
 def size_text(size):
-    return f"{size[0]}" + (f" of {size[1]} contexts" if len(size) > 1 else "")
+    contexts = f" x {size[1]} context{'s' if size[1] > 1 else ''}" if len(size) > 1 else ""
+    return f"{size[0]}{contexts}"
 
 
 class Results:

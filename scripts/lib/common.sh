@@ -31,12 +31,15 @@ start() {
   read -r -t 20 line <&"$output" || { cat "$process_log" >&2; fail "did not start: $*"; }
 }
 
+# Whether the process still runs. A process id that the system has given to somebody else is not ours.
+is_running() { grep -qs "^PPid:[[:space:]]$$\$" "/proc/$1/status"; }
+
 # Ends a process that was started, by force after 5 s, and returns its exit status: stop PROCESS_ID
 stop() {
   local tick=0
-  kill "$1" 2>/dev/null || true
-  while kill -0 "$1" 2>/dev/null && ((tick++ < 100)); do sleep 0.05; done
-  kill -KILL "$1" 2>/dev/null || true
+  ! is_running "$1" || kill "$1"
+  while is_running "$1" && ((tick++ < 100)); do sleep 0.05; done
+  ! is_running "$1" || kill -KILL "$1"
   wait "$1" 2>/dev/null
 }
 
