@@ -23,7 +23,9 @@ if [ ! -d "$sysroot" ]; then
   mv "$sysroot.new" "$sysroot"
 fi
 
-./scripts/build.sh aarch64 TarnisLibrary HostPlatform tarnis-module HandlerTest ServiceTest
+./scripts/build.sh aarch64 TarnisLibrary HostPlatform tarnis-module
+mapfile -t tests < <(ctest --preset aarch64 -N | grep -oP '^ *Test +#\d+: \K[A-Za-z]+Test$')
+./scripts/build.sh aarch64 "${tests[@]}"
 ctest --preset aarch64
 library=build/aarch64/TarnisLibrary/libTarnisLibrary.so
 aarch64-linux-gnu-strip -o build/aarch64/stripped.so "$library"
