@@ -85,7 +85,7 @@ for bus in deny allow; do
   expect '*boolean false*/800x480.ini"*' $device Interface.DeviceUiResources.getSupportedScreenSizes
   expect '*boolean false*/icons"*' $icons Interface.IconProvider.getIconResourcesBasePath
   expect '*boolean false*"nightMode"*' $icons Interface.IconProvider.getIconResourcesMappingTable string:
-  expect '*boolean true*is not the name*' $icons Interface.IconProvider.getIconResourcesMappingTable string:../../etc/passwd
+  expect '*boolean true*is not a valid mapping table name*' $icons Interface.IconProvider.getIconResourcesMappingTable string:../../etc/passwd
 
   expect '*.AccessDenied:*' $device org.freedesktop.DBus.Introspectable.Introspect
   expect '*.AccessDenied:*' $device org.freedesktop.DBus.Peer.Ping
