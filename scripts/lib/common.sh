@@ -34,12 +34,16 @@ start() {
 # Whether the process still runs. A process id that the system has given to somebody else is not ours.
 is_running() { grep -qs "^PPid:[[:space:]]$$\$" "/proc/$1/status"; }
 
-# Ends a process that was started, by force after 5 s, and returns its exit status: stop PROCESS_ID
+# Ends a process that was started and returns its exit status: stop PROCESS_ID
+# A process that does not end within 20 s, the time limit of every wait here, is ended by force.
 stop() {
   local tick=0
   ! is_running "$1" || kill "$1"
-  while is_running "$1" && ((tick++ < 100)); do sleep 0.05; done
-  ! is_running "$1" || kill -KILL "$1"
+  while is_running "$1" && ((tick++ < 400)); do sleep 0.05; done
+  if is_running "$1"; then
+    echo "still running after 20 s: $(tr '\0' ' ' <"/proc/$1/cmdline")" >&2
+    kill -KILL "$1"
+  fi
   wait "$1" 2>/dev/null
 }
 
