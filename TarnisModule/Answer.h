@@ -7,15 +7,7 @@
 namespace TarnisModule::Answer
 {
 
-QDBusVariant value(const QVariant& value);
-
-/// An error with the default error code.
-QDBusVariant error(const QString& message);
-
-/// The path if the file can be read, otherwise an error that names it.
-QDBusVariant readableFile(const QString& path);
-
-/// Why the path is not a readable regular file; null if it is one.
-QString fileProblem(const QString& path);
+/// The value if `problem` is null, otherwise an error with the default error code and that message.
+QDBusVariant of(const QVariant& value, const QString& problem);
 
 } // namespace TarnisModule::Answer

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ResourceFormat/Directory.h"
+#include "ResourceFormat/PublishedResources.h"
 
 #include <QDBusVariant>
 #include <QObject>
@@ -25,7 +25,7 @@ public:
     QDBusVariant getSupportedScreenSizes() const;
 
 private:
-    const ResourceFormat::Directory directory;
+    const ResourceFormat::PublishedResources resources;
 };
 
 } // namespace TarnisModule

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ResourceFormat/Directory.h"
+#include "ResourceFormat/PublishedResources.h"
 
 #include <QDBusVariant>
 #include <QObject>
@@ -24,7 +24,7 @@ public:
     QDBusVariant getIconResourcesMappingTable(const QString& name) const;
 
 private:
-    const ResourceFormat::Directory directory;
+    const ResourceFormat::PublishedResources resources;
 };
 
 } // namespace TarnisModule
