@@ -1,0 +1,85 @@
+#include "QmlHost/DirectorySource.h"
+
+#include "ResourceFormat/PublishedResources.h"
+
+#include <QDirIterator>
+
+namespace
+{
+
+QStringList entriesBelow(const QString& folder, QDir::Filters kinds)
+{
+    QStringList entries;
+    QDirIterator iterator(folder, kinds | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
+    while (iterator.hasNext())
+        entries.append(iterator.next());
+    entries.sort();
+    return entries;
+}
+
+void watchAll(const ResourceFormat::Directory& directory, QmlHost::DirectoryWatcher& watcher)
+{
+    watcher.clear();
+    QStringList files{directory.colorFile(), directory.fontFile(), directory.mappingTable()};
+    for (const QFileInfo& file : directory.dimensionFiles() + directory.languageFiles())
+        files.append(file.filePath());
+    for (const QString& file : files)
+        watcher.watchPath(file);
+    const QString iconFolder = directory.iconFolder();
+    const QStringList folders{directory.path(), directory.dimensionFolder(), directory.textFolder(), iconFolder};
+    for (const QString& folder : folders + entriesBelow(iconFolder, QDir::Dirs))
+        watcher.watchEntries(folder);
+}
+
+QString readAll(const ResourceFormat::Directory& directory, QmlHost::Answers& answers)
+{
+    const ResourceFormat::PublishedResources resources(directory);
+    QString problems[5];
+    answers.setColorFile(resources.colorFile(problems[0]));
+    answers.setFontFile(resources.fontFile(problems[1]));
+    answers.setDisplaySizes(resources.displaySizes(problems[2]));
+    const QString iconFolder = resources.iconFolder(problems[3]);
+    const QString mappingTable = resources.mappingTable(QString(), problems[4]);
+    answers.setIcons(iconFolder, mappingTable, entriesBelow(iconFolder, QDir::Files));
+    answers.setTexts(directory.path());
+    QStringList found;
+    for (const QString& problem : problems) {
+        if (!problem.isEmpty())
+            found.append(problem);
+    }
+    return found.join(QStringLiteral("; "));
+}
+
+} // namespace
+
+namespace QmlHost
+{
+
+DirectorySource::DirectorySource(const QString& directoryPath)
+    : path(QDir(directoryPath).absolutePath())
+    , watcher(this) // as a child it moves to the worker thread
+{
+    connect(&watcher, &DirectoryWatcher::changed, this, &DirectorySource::ask);
+}
+
+DirectorySource::~DirectorySource() = default;
+
+void DirectorySource::start()
+{
+    ask();
+}
+
+void DirectorySource::ask()
+{
+    if (isStopRequested())
+        return;
+    const ResourceFormat::Directory directory(path);
+    watchAll(directory, watcher); // before the reading, so that no change in between is missed
+    Answers answers;
+    QString problem = QDir(path).exists() ? readAll(directory, answers) : path + QStringLiteral(" is not a directory");
+    if (problem.isEmpty() && !watcher.problem().isEmpty())
+        problem = QStringLiteral("%1: changes are not followed: %2").arg(path, watcher.problem());
+    Q_EMIT answered(answers, problem);
+}
+
+} // namespace QmlHost

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QString>
+#include <QTimer>
+
+#include <memory>
+
+class QSocketNotifier;
+
+namespace QmlHost
+{
+
+/// Tells when files change, however they do: written in place, renamed over, removed, or reached through a directory or
+/// a symbolic link that is replaced. It watches directories only, since an editor may replace a file when it saves it.
+class DirectoryWatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DirectoryWatcher(QObject* parent);
+    ~DirectoryWatcher() override;
+
+    /// Forgets what was watched before. Call it first, on the thread that watches.
+    void clear();
+
+    /// Watches what the path leads to: each directory and each symbolic link on the way, whether or not it exists.
+    void watchPath(const QString& path);
+
+    /// Watches every entry of the directory.
+    void watchEntries(const QString& directory);
+
+    /// Why changes are not noticed; null if they are.
+    QString problem() const;
+
+Q_SIGNALS:
+    /// Emitted once for all changes within 100 ms, at their end.
+    void changed();
+
+private:
+    void watch(const QString& directory, const QByteArray& name);
+    void readEvents();
+
+    int descriptor = -1;
+    std::unique_ptr<QSocketNotifier> notifier;
+    QHash<int, QSet<QByteArray>> names; // what matters in each watched directory; the empty name is every entry
+    QString reason;
+    QTimer delay;
+};
+
+} // namespace QmlHost

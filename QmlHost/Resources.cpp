@@ -1,0 +1,97 @@
+#include "QmlHost/Resources.h"
+
+#include "ResourceFormat/Language.h"
+
+#include <utility>
+
+namespace QmlHost
+{
+
+Resources::Resources(std::unique_ptr<Source> answerSource, TextManager* hostTextManager)
+    : givenTextManager(hostTextManager)
+    , languageName(ResourceFormat::Language::secondFallback())
+    , source(answerSource.release())
+{
+    if (givenTextManager != nullptr)
+        connect(givenTextManager, &TextManagerBase::languageReloaded, this, &Resources::languageChanged);
+    source->moveToThread(&thread);
+    connect(&thread, &QThread::started, source, &Source::start);
+    connect(&thread, &QThread::finished, source, &QObject::deleteLater);
+    connect(source, &Source::answered, this, &Resources::take);
+    thread.start();
+}
+
+Resources::~Resources()
+{
+    thread.requestInterruption();
+    thread.quit();
+    thread.wait();
+}
+
+const Answers& Resources::answers() const
+{
+    return lastAnswers;
+}
+
+bool Resources::isReady() const
+{
+    return lastAnswers.isAnyAnswered();
+}
+
+QString Resources::problem() const
+{
+    return lastProblem;
+}
+
+QString Resources::language() const
+{
+    return givenTextManager != nullptr ? givenTextManager->getLanguageName() : languageName;
+}
+
+void Resources::setLanguage(const QString& name)
+{
+    if (name == language())
+        return;
+    if (givenTextManager != nullptr) {
+        givenTextManager->setLanguage(name);
+        return;
+    }
+    languageName = name;
+    Q_EMIT languageChanged();
+}
+
+QStringList Resources::languages() const
+{
+    return givenTextManager != nullptr ? QStringList() : lastAnswers.languages;
+}
+
+const TextManager* Resources::textManager() const
+{
+    return givenTextManager;
+}
+
+void Resources::ask()
+{
+    QMetaObject::invokeMethod(source, &Source::ask, Qt::QueuedConnection);
+}
+
+void Resources::take(const Answers& fresh, const QString& freshProblem)
+{
+    const bool wasReady = isReady();
+    const QStringList oldLanguages = languages();
+    const QString oldProblem = std::exchange(lastProblem, freshProblem);
+    const Answers oldAnswers = lastAnswers;
+    lastAnswers = fresh;
+    lastAnswers.complete(oldAnswers);
+    // Whoever hears of one change finds all of them made.
+    if (!(lastAnswers == oldAnswers))
+        Q_EMIT answersChanged();
+    if (languages() != oldLanguages)
+        Q_EMIT languagesChanged();
+    if (lastProblem != oldProblem)
+        Q_EMIT problemChanged();
+    if (isReady() != wasReady)
+        Q_EMIT readyChanged();
+}
+
+} // namespace QmlHost

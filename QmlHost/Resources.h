@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Common/TextTools/TextManager.h"
+#include "QmlHost/Source.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QThread>
+
+#include <memory>
+
+namespace QmlHost
+{
+
+/// What all engines have in common: the answers of the source, which works on a thread of its own, and the language.
+class Resources : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Starts the source. The caller keeps the text manager, which may be null.
+    Resources(std::unique_ptr<Source> answerSource, TextManager* hostTextManager);
+
+    /// Waits for the source's call in progress.
+    ~Resources() override;
+
+    /// The last answer to each question.
+    const Answers& answers() const;
+
+    /// Whether any question has been answered.
+    bool isReady() const;
+
+    QString problem() const;
+
+    QString language() const;
+    void setLanguage(const QString& name);
+
+    /// Empty if the texts come from the host.
+    QStringList languages() const;
+
+    /// The host's, or null.
+    const TextManager* textManager() const;
+
+    /// Lets the source ask again. Does not wait for it.
+    void ask();
+
+Q_SIGNALS:
+    void answersChanged();
+    void readyChanged();
+    void problemChanged();
+    void languageChanged();
+    void languagesChanged();
+
+private:
+    void take(const Answers& fresh, const QString& freshProblem);
+
+    TextManager* const givenTextManager;
+    Answers lastAnswers;
+    QString lastProblem;
+    QString languageName;
+    Source* const source; // lives on the thread and is deleted at its end
+    QThread thread;
+};
+
+} // namespace QmlHost

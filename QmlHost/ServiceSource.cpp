@@ -1,0 +1,153 @@
+#include "QmlHost/ServiceSource.h"
+
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
+#include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
+#include "TarnisLibrary/TarnisDefinitions.h"
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QFileInfo>
+
+#include <functional>
+
+namespace
+{
+
+constexpr int longestInterval = 30000;
+
+QString busName()
+{
+    return QStringLiteral("Module.") + TarnisDefinitions::getModuleName();
+}
+
+// The five questions and what came of them.
+class Interview
+{
+public:
+    Interview()
+    {
+        const auto noteFailure = [this] { isReached = false; };
+        QObject::connect(&resources, &DBusConnectorBase::dBusConnectionError, noteFailure);
+        QObject::connect(&iconProvider, &DBusConnectorBase::dBusConnectionError, noteFailure);
+    }
+
+    // After a call without a reply the rest is not asked: each call may block for seconds.
+    void run(const std::function<bool()>& isStopRequested)
+    {
+        const std::function<void()> questions[] = {
+            [this] { colorFile = resources.getColorIniFilePath(); },
+            [this] { fontFile = resources.getFontIniFilePath(); },
+            [this] { displaySizes = resources.getSupportedDisplaySizes(); },
+            [this] { iconFolder = iconProvider.getIconResourcesBasePath(); },
+            [this] { mappingTable = iconProvider.getIconResourcesMappingTable(QString()); },
+        };
+        for (const auto& question : questions) {
+            if (isReached && !isStopRequested())
+                question();
+        }
+    }
+
+    QmlHost::Answers answers() const
+    {
+        QmlHost::Answers answers;
+        answers.setColorFile(colorFile);
+        answers.setFontFile(fontFile);
+        answers.setDisplaySizes(displaySizes);
+        answers.setIcons(iconFolder, mappingTable);
+        if (!colorFile.isEmpty())
+            answers.setTexts(QFileInfo(colorFile).path());
+        return answers;
+    }
+
+    QString problem() const
+    {
+        if (!isReached)
+            return QStringLiteral("The service %1 does not answer; it is asked again until it does.").arg(busName());
+        QStringList missing;
+        const auto check = [&missing](bool isMissing, const QString& name) { isMissing ? missing.append(name) : void(); };
+        check(colorFile.isEmpty(), QStringLiteral("the color file"));
+        check(fontFile.isEmpty(), QStringLiteral("the font file"));
+        check(displaySizes.isEmpty(), QStringLiteral("the display sizes"));
+        check(iconFolder.isEmpty(), QStringLiteral("the icon directory"));
+        check(mappingTable.isEmpty(), QStringLiteral("the icon mapping table"));
+        if (missing.isEmpty())
+            return QString();
+        return QStringLiteral("The service %1 does not provide %2; the log contains the reasons.")
+            .arg(busName(), missing.join(QStringLiteral(", ")));
+    }
+
+private:
+    const TarnisDeviceUiResourcesDBusConnector resources;
+    const TarnisIconProviderDBusConnector iconProvider;
+    bool isReached = true;
+    QString colorFile;
+    QString fontFile;
+    QList<QPair<QSize, QString>> displaySizes;
+    QString iconFolder;
+    QString mappingTable;
+};
+
+} // namespace
+
+namespace QmlHost
+{
+
+ServiceSource::ServiceSource()
+    : repetition(this) // as a child it moves to the worker thread
+{
+    repetition.setSingleShot(true);
+    connect(&repetition, &QTimer::timeout, this, &ServiceSource::ask);
+}
+
+ServiceSource::~ServiceSource() = default;
+
+void ServiceSource::start()
+{
+    QDBusConnection bus = QDBusConnection::systemBus();
+    const auto* watcher = new QDBusServiceWatcher(busName(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ServiceSource::onOwnerChanged);
+    bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+                QStringLiteral("Disconnected"), this, SLOT(reportLostBus()));
+    ask();
+}
+
+void ServiceSource::ask()
+{
+    if (isStopRequested())
+        return;
+    if (!QDBusConnection::systemBus().isConnected()) {
+        reportLostBus();
+        return;
+    }
+    Interview interview;
+    interview.run(&Source::isStopRequested);
+    if (isStopRequested())
+        return;
+    const QString problem = interview.problem();
+    if (problem.isEmpty()) {
+        repetition.stop();
+        nextInterval = firstInterval;
+    } else {
+        repetition.start(nextInterval);
+        nextInterval = qMin(2 * nextInterval, longestInterval);
+    }
+    Q_EMIT answered(interview.answers(), problem);
+}
+
+void ServiceSource::onOwnerChanged(const QString& /*name*/, const QString& /*oldOwner*/, const QString& newOwner)
+{
+    if (newOwner.isEmpty())
+        return;
+    nextInterval = firstInterval;
+    ask();
+}
+
+// Qt connects a process to each bus once.
+void ServiceSource::reportLostBus()
+{
+    repetition.stop();
+    Q_EMIT answered(Answers(), QStringLiteral("The connection to the D-Bus is lost, and this process cannot reconnect "
+                                              "to it; restart the process."));
+}
+
+} // namespace QmlHost

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "QmlHost/Source.h"
+
+#include <QTimer>
+
+namespace QmlHost
+{
+
+/// Asks the Tarnis module over the system bus: at the start and whenever its bus name gets another owner. A failed
+/// question is repeated after 0.5 s, and then at intervals that double up to 30 s.
+class ServiceSource : public Source
+{
+    Q_OBJECT
+
+public:
+    ServiceSource();
+    ~ServiceSource() override;
+
+    void start() override;
+    void ask() override;
+
+private:
+    Q_SLOT void reportLostBus(); // QDBusConnection connects to slots by name only
+    void onOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
+
+    static constexpr int firstInterval = 500; // milliseconds
+
+    QTimer repetition;
+    int nextInterval = firstInterval;
+};
+
+} // namespace QmlHost

@@ -1,0 +1,20 @@
+#include "QmlHost/Source.h"
+
+#include <QThread>
+
+namespace QmlHost
+{
+
+Source::Source()
+{
+    qRegisterMetaType<Answers>();
+}
+
+Source::~Source() = default;
+
+bool Source::isStopRequested()
+{
+    return QThread::currentThread()->isInterruptionRequested();
+}
+
+} // namespace QmlHost

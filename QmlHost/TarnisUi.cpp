@@ -1,0 +1,97 @@
+#include "QmlHost/TarnisUi.h"
+
+#include "QmlHost/DirectorySource.h"
+#include "QmlHost/ServiceSource.h"
+#include "QmlHost/Ui.h"
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
+
+using QmlHost::Resources;
+
+namespace
+{
+
+// A part of the registration of the QML type, which is one for the whole process, too.
+QPointer<Resources>& publishedResources()
+{
+    static QPointer<Resources> resources;
+    return resources;
+}
+
+QObject* newUi(QQmlEngine* engine, QJSEngine* /*scriptEngine*/)
+{
+    Resources* const resources = publishedResources();
+    return resources != nullptr ? new QmlHost::Ui(*resources, *engine) : nullptr;
+}
+
+} // namespace
+
+TarnisUi::TarnisUi(std::unique_ptr<QmlHost::Source> source, TextManager* textManager)
+    : resources(std::make_unique<Resources>(std::move(source), textManager))
+{
+    connect(resources.get(), &Resources::readyChanged, this, &TarnisUi::readyChanged);
+    connect(resources.get(), &Resources::problemChanged, this, &TarnisUi::problemChanged);
+    connect(resources.get(), &Resources::languageChanged, this, &TarnisUi::languageChanged);
+    connect(resources.get(), &Resources::languagesChanged, this, &TarnisUi::languagesChanged);
+}
+
+TarnisUi::~TarnisUi() = default;
+
+std::unique_ptr<QmlHost::Source> TarnisUi::service()
+{
+    return std::make_unique<QmlHost::ServiceSource>();
+}
+
+std::unique_ptr<QmlHost::Source> TarnisUi::directory(const QString& path)
+{
+    return std::make_unique<QmlHost::DirectorySource>(path);
+}
+
+void TarnisUi::publish()
+{
+    publishedResources() = resources.get();
+    static const int type = qmlRegisterSingletonType<QmlHost::Ui>("Tarnis", 1, 0, "Ui", newUi);
+    Q_UNUSED(type)
+}
+
+bool TarnisUi::waitUntilReady(int milliseconds)
+{
+    QEventLoop loop;
+    connect(this, &TarnisUi::readyChanged, &loop, &QEventLoop::quit);
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    if (!isReady())
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return isReady();
+}
+
+bool TarnisUi::isReady() const
+{
+    return resources->isReady();
+}
+
+QString TarnisUi::problem() const
+{
+    return resources->problem();
+}
+
+QString TarnisUi::language() const
+{
+    return resources->language();
+}
+
+void TarnisUi::setLanguage(const QString& name)
+{
+    resources->setLanguage(name);
+}
+
+QStringList TarnisUi::languages() const
+{
+    return resources->languages();
+}
+
+void TarnisUi::askAgain()
+{
+    resources->ask();
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Common/TextTools/TextManager.h"
+#include "QmlHost/Source.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace QmlHost
+{
+class Resources;
+}
+
+/// Offers the resources of the device to QML, as the singleton `Ui` of the module `Tarnis`:
+///
+///     TarnisUi ui;
+///     ui.publish();
+///     QQmlApplicationEngine engine(QUrl("qrc:/main.qml"));
+///
+/// Use it from the thread of the QGuiApplication, which must exist before and end after it. No function waits for the
+/// service except the destructor and waitUntilReady(): a thread of its own asks for the resources and follows their
+/// changes. The library's records of failed questions come from that thread. The files are read on the caller's thread.
+///
+/// Delete the QML engines first. One that lives longer keeps its handlers, and nothing changes there any more.
+class TarnisUi : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Starts to ask. The texts come from the directory `texts` beside the color file, or from `textManager`, which the
+    /// caller keeps and which must outlive this object and the QML engines.
+    explicit TarnisUi(std::unique_ptr<QmlHost::Source> source = service(), TextManager* textManager = nullptr);
+
+    /// Waits for the question in progress, if there is one: 5 s at most if the service hangs. Asks no further one.
+    ~TarnisUi() override;
+
+    /// The Tarnis module on the system bus, whenever it is there: it is asked when it appears, restarts or changes its
+    /// owner. A failed question is repeated after 0.5 s, and then at intervals that double up to 30 s.
+    static std::unique_ptr<QmlHost::Source> service();
+
+    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed.
+    static std::unique_ptr<QmlHost::Source> directory(const QString& path);
+
+    /// Serves every QML engine of the process that asks for `Ui` from now on. Each gets a `Ui` and handlers of its own.
+    /// The object that was published last serves; engines that have got their `Ui` keep it.
+    void publish();
+
+    /// Waits until there is an answer, but not longer than this. The thread's events are handled meanwhile, except user
+    /// input. Returns whether there is an answer.
+    bool waitUntilReady(int milliseconds);
+
+    /// Whether there has been an answer, also an incomplete one. Until then lookups of QML are empty and log nothing.
+    bool isReady() const;
+
+    /// One sentence on why the last question was not answered completely; empty if it was. What was there stays.
+    QString problem() const;
+
+    /// `en` at first, or the language of the text manager that was passed in.
+    QString language() const;
+    void setLanguage(const QString& name);
+
+    /// The languages of the text directory, sorted. Empty if the texts come from the host's text manager.
+    QStringList languages() const;
+
+    /// Asks again and returns at once. If nothing has changed, nothing happens.
+    void askAgain();
+
+Q_SIGNALS:
+    void readyChanged();
+    void problemChanged();
+    void languageChanged();
+    void languagesChanged();
+
+private:
+    const std::unique_ptr<QmlHost::Resources> resources;
+};

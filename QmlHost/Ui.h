@@ -1,0 +1,86 @@
+#pragma once
+
+#include "QmlHost/Resources.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisTextHandler.h"
+#include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
+
+#include <QPointer>
+#include <QQmlEngine>
+
+class QScreen;
+
+namespace QmlHost
+{
+
+/// The QML singleton `Ui` of the module `Tarnis`, one for each engine, with handlers of its own. The engine owns it.
+///
+/// A handler is replaced when its files or the primary screen change; all of them are before the first signal. From
+/// then on the engine's garbage collector owns the old handler, so scripts may keep it. C++ code must not: it reads the
+/// property again after the signal.
+class Ui : public QObject
+{
+    Q_OBJECT
+
+    Q_PROPERTY(TarnisColorHandler* colors READ colors NOTIFY colorsChanged)
+    Q_PROPERTY(TarnisFontHandler* fonts READ fonts NOTIFY fontsChanged)
+    Q_PROPERTY(TarnisElementDimensionHandler* dimensions READ dimensions NOTIFY dimensionsChanged)
+    Q_PROPERTY(TarnisTextHandler* texts READ texts NOTIFY textsChanged)
+    Q_PROPERTY(TarnisIconHandler* icons READ icons NOTIFY iconsChanged)
+    /// The language of the texts, for every engine.
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
+    /// The languages to choose from, sorted. Empty if the texts come from the host.
+    Q_PROPERTY(QStringList languages READ languages NOTIFY languagesChanged)
+    /// Whether there has been an answer. Until then lookups are empty and log nothing.
+    Q_PROPERTY(bool ready READ isReady NOTIFY readyChanged)
+    /// Why the last question was not answered completely; empty if it was.
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
+
+public:
+    /// The object lives as long as the engine. Without the resources it keeps its handlers, and nothing changes.
+    Ui(Resources& sharedResources, QQmlEngine& qmlEngine);
+
+    TarnisColorHandler* colors() const;
+    TarnisFontHandler* fonts() const;
+    TarnisElementDimensionHandler* dimensions() const;
+    TarnisTextHandler* texts() const;
+    TarnisIconHandler* icons() const;
+    QString language() const;
+    void setLanguage(const QString& name);
+    QStringList languages() const;
+    bool isReady() const;
+    QString problem() const;
+
+Q_SIGNALS:
+    void colorsChanged();
+    void fontsChanged();
+    void dimensionsChanged();
+    void textsChanged();
+    void iconsChanged();
+    void languageChanged();
+    void languagesChanged();
+    void readyChanged();
+    void problemChanged();
+
+private:
+    void update();
+    void followScreen(const QScreen* screen);
+    void followLanguage();
+    void replaceTexts();
+    template <typename Handler>
+    void replace(Handler*& current, Handler* fresh);
+
+    QPointer<Resources> resources;
+    QQmlEngine& engine;
+    Answers built; // what the handlers are built from
+    TarnisColorHandler* colorHandler = nullptr;
+    TarnisFontHandler* fontHandler = nullptr;
+    TarnisElementDimensionHandler* dimensionHandler = nullptr;
+    TarnisIconHandler* iconHandler = nullptr;
+    TarnisTextHandler* textHandler = nullptr;
+    TextManager* ownTextManager = nullptr; // child of the text handler; null if the texts come from the host
+};
+
+} // namespace QmlHost
