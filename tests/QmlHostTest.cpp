@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <optional>
 
 namespace
@@ -43,6 +44,25 @@ private:
     std::unique_ptr<QObject> object;
 };
 
+// Counts the records of a failed call to the service, and those that the library logs on the main thread.
+struct Log {
+    Log() { failedCalls = recordsOfLookups = 0; }
+    ~Log() { qInstallMessageHandler(previous); }
+
+    inline static std::atomic_int failedCalls, recordsOfLookups;
+
+private:
+    static void record(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
+    {
+        if (text.startsWith("\"D-Bus call to method"))
+            ++failedCalls;
+        else if (QThread::currentThread() == qApp->thread() && QByteArray(context.category) == "default")
+            ++recordsOfLookups;
+    }
+
+    const QtMessageHandler previous = qInstallMessageHandler(record);
+};
+
 const QByteArray lookups =
     "property string color: Ui.colors.getColor('Day', 'Text')\n"
     "property string family: Ui.fonts.getFontFamily('Text')\n"
@@ -52,15 +72,15 @@ const QByteArray lookups =
     "property var text: Ui.texts.translatedTexts['text://Button/Cancel']\n"
     "property string all: [color, family, points, height, icon, text, Ui.ready].join()\n";
 
-// What is done to a copy of the resources, and the color that the page shows then.
+// What is done in a copy of the resources, and the color that the page shows then.
 const Rows changes{
     "sed -i s/#1f2a37/#fe01fd/ colors.ini                                                    | #fe01fd", // renames over
     "printf '[Day]\\nText=#fe01fd\\n' > colors.ini                                           | #fe01fd",
-    "cp -r . ../new; mv ../resources ../old; sed -i s/#1f2a37/#fe01fd/ ../new/colors.ini; mv ../new ../resources | #fe01fd",
-    "rm colors.ini; sleep 0.2; printf '[Day]\\nText=#fe01fd\\n' > colors.ini                 | #fe01fd",
-    "printf '[Day]\\nText=#fe01fd\\n' > ../linked.ini; ln -sf ../linked.ini colors.ini; sleep 0.3; "
-    "printf '[Day]\\nText=#fe01fc\\n' > ../linked.ini                                        | #fe01fc",
-    "cp -r . ../other; rm -r ../resources; sed -i s/#1f2a37/#fe01fd/ ../other/colors.ini; ln -s other ../resources | #fe01fd",
+    "rm colors.ini; sleep 0.3; printf '[Day]\\nText=#fe01fd\\n' > colors.ini                 | #fe01fd",
+    "cp -r . ../new; mv $PWD ../old; printf '[Day]\\nText=#fe01fd\\n' > ../new/colors.ini; mv ../new $PWD | #fe01fd",
+    "mv $PWD ../old; sleep 0.3; ln -s old $PWD; printf '[Day]\\nText=#fe01fd\\n' > ../old/colors.ini | #fe01fd",
+    "printf '[Day]\\nText=#fe01fd\\n' > ../shared; ln -sf ../shared colors.ini; sleep 0.3; "
+    "sed -i s/fe01fd/fe01fe/ ../shared                                                       | #fe01fe",
 };
 
 } // namespace
@@ -74,12 +94,23 @@ class QmlHostTest : public QObject
     std::optional<QTemporaryDir> parent;
     QString resources;
 
-    void startModule() { module.emplace(TARNIS_MODULE, QStringList{"--resources", resources}); }
+    void startModule()
+    {
+        module.emplace(TARNIS_MODULE, QStringList{"--resources", resources});
+        QVERIFY(module->firstLine().endsWith(resources));
+    }
 
-    static QString expected(const QString& directory, const QString& text)
+    void shell(const QString& commands) const
+    {
+        QCOMPARE(run("sh", {"-ec", "cd '" + resources + "'; " + commands}).exitStatus, 0);
+    }
+
+    void signalModule(int signal) { ::kill(static_cast<pid_t>(module->process().processId()), signal); }
+
+    QString expected(const QString& text) const
     {
         return QString("#1f2a37,Inter,15,48,file:%1/icons/day/home.svg%1/icons/night/home.svg,%2,true")
-            .arg(directory, text);
+            .arg(resources, text);
     }
 
 private Q_SLOTS:
@@ -96,31 +127,202 @@ private Q_SLOTS:
         parent.reset();
     }
 
-    void lookupsBeforeTheFirstAnswerAreEmptyAndQuiet()
+    void everyEngineGetsEmptyLookupsAndThenTheAnswers()
     {
-        TarnisUi ui;
-        ui.publish();
-        const Page page(lookups);
-        QCOMPARE(page["all"].toString(), QString(",,0,,,,false"));
-    }
-
-    void everyEngineFollowsTheServiceAndTheLanguage()
-    {
+        const Log log;
         TarnisUi ui;
         ui.publish();
         const Page first(lookups);
-        QTRY_VERIFY_WITH_TIMEOUT(!ui.problem().isEmpty(), 10000);
+        QCOMPARE(first["all"].toString(), QString(",,0,,,,false"));
+        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("Module.Tarnis does not answer"), 10000);
         QVERIFY(!ui.waitUntilReady(1));
         startModule();
         QVERIFY(ui.waitUntilReady(10000));
         const Page second(lookups);
         for (const Page* page : {&first, &second})
-            QCOMPARE((*page)["all"].toString(), expected(resources, "Cancel"));
+            QCOMPARE((*page)["all"].toString(), expected("Cancel"));
         QCOMPARE(ui.problem(), QString());
-        QCOMPARE(ui.languages(), (QStringList{"de", "de_AT", "en", "fr", "ja"}));
-        ui.setLanguage("de");
-        for (const Page* page : {&first, &second})
-            QCOMPARE((*page)["all"].toString(), expected(resources, "Abbrechen"));
+        QCOMPARE(Log::recordsOfLookups.load(), 0);
+    }
+
+    void languageIsSharedByAllEngines()
+    {
+        TarnisUi ui(TarnisUi::directory(resources));
+        ui.publish();
+        ui.setLanguage("fr");
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page first(lookups);
+        const Page second(lookups + "property var names: [Ui.language].concat(Ui.languages)\n"
+                                    "function choose() { Ui.language = 'de' }");
+        QCOMPARE(first["all"].toString(), expected("Annuler"));
+        second.call("choose");
+        QCOMPARE(first["all"].toString(), expected("Abbrechen"));
+        QCOMPARE(second["names"].toStringList(), (QStringList{"de", "de", "de_AT", "en", "fr", "ja"}));
+    }
+
+    void textsComeFromTheHostIfItHasThem()
+    {
+        writeFile(parent->filePath("own/en.json"), "{\"text://Button/Cancel\": \"Away\"}");
+        writeFile(parent->filePath("own/de.json"), "{\"text://Button/Cancel\": \"Weg\"}");
+        TextManager manager(parent->filePath("own"), "en");
+        TarnisUi ui(TarnisUi::directory(resources), &manager);
+        ui.publish();
+        const Page page(lookups + "property string language: Ui.language");
+        QCOMPARE(page["text"].toString(), QString("Away"));
+        manager.setLanguage("de");
+        QVERIFY(ui.waitUntilReady(10000));
+        QCOMPARE(page["all"].toString(), expected("Weg"));
+        QCOMPARE(page["language"].toString(), QString("de"));
+    }
+
+    void stoppedServiceBlocksOnlyTheEndAndForOneCall()
+    {
+        startModule();
+        signalModule(SIGSTOP);
+        const Log log;
+        {
+            TarnisUi ui;
+            ui.publish();
+            const Page page(lookups);
+            QVERIFY(!ui.waitUntilReady(100)); // by then the first call is under way
+            QCOMPARE(ui.problem(), QString());
+        }
+        QCOMPARE(Log::failedCalls.load(), 2); // one call leaves two records
+        TarnisUi ui;
+        ui.publish();
+        const Page page(lookups);
+        QVERIFY(!ui.waitUntilReady(100));
+        signalModule(SIGCONT);
+        QVERIFY(ui.waitUntilReady(10000));
+        QCOMPARE(page["all"].toString(), expected("Cancel"));
+    }
+
+    void onlyWhatARestartedServiceChangesIsReadAgain()
+    {
+        startModule();
+        TarnisUi ui;
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups + "property QtObject ui: Ui");
+        auto* const object = page["ui"].value<QObject*>();
+        QSignalSpy colors(object, SIGNAL(colorsChanged()));
+        QSignalSpy icons(object, SIGNAL(iconsChanged()));
+        QSignalSpy texts(object, SIGNAL(textsChanged()));
+        startModule(); // the old one is killed
+        shell("sed -i 's/\"Cancel\"/\"Away\"/' texts/en.json");
+        ui.askAgain();
+        QTRY_COMPARE_WITH_TIMEOUT(page["text"].toString(), QString("Away"), 10000);
+        shell("sed -i s/#1f2a37/#fe01fd/ colors.ini");
+        startModule();
+        QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
+        QCOMPARE((QList<int>{colors.count(), icons.count(), texts.count()}), (QList<int>{1, 0, 1}));
+    }
+
+    void failedQuestionKeepsWhatWasThereAndIsRepeated()
+    {
+        startModule();
+        TarnisUi ui;
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups + "property string problem: Ui.problem");
+        shell("mv icons/mapping.json away; sed -i s/#1f2a37/#fe01fd/ colors.ini");
+        ui.askAgain();
+        QTRY_VERIFY_WITH_TIMEOUT(page["problem"].toString().contains("the icon mapping table;"), 10000);
+        QCOMPARE(page["all"].toString(), expected("Cancel").replace("#1f2a37", "#fe01fd"));
+        shell("mv away icons/mapping.json");
+        QTRY_COMPARE_WITH_TIMEOUT(page["problem"].toString(), QString(), 10000);
+    }
+
+    void directoryIsFollowedHoweverItChanges_data() { addRows(changes); }
+
+    void directoryIsFollowedHoweverItChanges()
+    {
+        const auto [commands, color] = cells<2>();
+        TarnisUi ui(TarnisUi::directory(resources));
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups);
+        QCOMPARE(page["all"].toString(), expected("Cancel"));
+        shell(commands);
+        QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), color, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(ui.problem(), QString(), 10000);
+    }
+
+    void directoryMayAppearLaterAndNamesItsFaults()
+    {
+        const QString path = parent->filePath("later");
+        TarnisUi ui(TarnisUi::directory(path));
+        ui.publish();
+        const Page page(lookups);
+        QTRY_COMPARE_WITH_TIMEOUT(ui.problem(), path + " is not a directory", 10000);
+        shell("touch dimensions/large.ini; mv $PWD ../later");
+        QVERIFY(ui.waitUntilReady(10000));
+        QTRY_COMPARE_WITH_TIMEOUT(
+            ui.problem(), path + "/dimensions/large.ini is not named WIDTHxHEIGHT.ini", 10000);
+        QCOMPARE(page["color"].toString(), QString("#1f2a37"));
+        QCOMPARE(page["height"], QVariant());
+    }
+
+    void handlersThatScriptsKeepStayAlive()
+    {
+        TarnisUi ui(TarnisUi::directory(resources));
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        Page page(lookups
+                  + "property var kept\n"
+                    "Component.onCompleted: kept = [Ui.colors, Ui.fonts, Ui.dimensions, Ui.icons, Ui.texts]\n"
+                    "function look() { return [kept[0].getColor('Day', 'Text'), kept[1].getFontFamily('Text'), "
+                    "kept[2].uiElementDimensions['Button/height'], kept[3].getIconPath('home').length > 0, "
+                    "kept[4].translatedTexts['text://Button/Cancel']].join() }\n"
+                    "function drop() { kept = [] }");
+        int destroyed = 0;
+        for (const QVariant& kept : page["kept"].toList())
+            connect(kept.value<QObject*>(), &QObject::destroyed, [&destroyed] { ++destroyed; });
+        for (const QString color : {"#fe01fd", "#fe01fe", "#1f2a37"}) {
+            shell("for f in *.ini dimensions/* texts/* icons/mapping.json; do sed -i s/xyz/xyz/ $f; done; "
+                  "sed -i '/Day/,/Night/s/^Text=.*/Text=" + color + "/' colors.ini; echo >> icons/mapping.json");
+            QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), color, 10000);
+            page.engine.collectGarbage();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        ui.setLanguage("de"); // old handlers do not follow it
+        QCOMPARE(page.call("look").toString(), QString("#1f2a37,Inter,48,true,Cancel"));
+        QCOMPARE(destroyed, 0);
+        page.call("drop");
+        page.engine.collectGarbage();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(destroyed, 5);
+    }
+
+    void newPrimaryScreenGetsNewFontsAndDimensions()
+    {
+        std::optional<TarnisUi> ui(std::in_place, TarnisUi::directory(resources));
+        ui->publish();
+        QVERIFY(ui->waitUntilReady(10000));
+        const Page page(lookups + "property var fonts: Ui.fonts; property var dimensions: Ui.dimensions");
+        const auto handlers = [&page] {
+            return QList<QObject*>{page["fonts"].value<QObject*>(), page["dimensions"].value<QObject*>()};
+        };
+        const QList<QObject*> before = handlers();
+        Q_EMIT qGuiApp->primaryScreenChanged(QGuiApplication::primaryScreen());
+        QVERIFY(handlers().at(0) != before.at(0) && handlers().at(1) != before.at(1));
+        QCOMPARE(page["all"].toString(), expected("Cancel"));
+        ui.reset();
+        Q_EMIT qGuiApp->primaryScreenChanged(QGuiApplication::primaryScreen()); // the engine lives longer than the host
+        QCOMPARE(page["family"].toString(), QString("Inter"));
+    }
+
+    // The last one: this process never gets another bus.
+    void lostBusIsReported()
+    {
+        startModule();
+        TarnisUi ui;
+        QVERIFY(ui.waitUntilReady(10000));
+        bus.daemon.process().kill();
+        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("this process cannot reconnect"), 10000);
+        QVERIFY(ui.isReady());
+        TarnisUi later;
+        QTRY_COMPARE_WITH_TIMEOUT(later.problem(), ui.problem(), 10000);
     }
 };
 
