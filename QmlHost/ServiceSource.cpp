@@ -63,13 +63,18 @@ public:
     {
         if (!isReached)
             return QStringLiteral("The service %1 does not answer; it is asked again until it does.").arg(busName());
+        const QPair<bool, QString> parts[] = {
+            {colorFile.isEmpty(), QStringLiteral("the color file")},
+            {fontFile.isEmpty(), QStringLiteral("the font file")},
+            {displaySizes.isEmpty(), QStringLiteral("the display sizes")},
+            {iconFolder.isEmpty(), QStringLiteral("the icon directory")},
+            {mappingTable.isEmpty(), QStringLiteral("the icon mapping table")},
+        };
         QStringList missing;
-        const auto check = [&missing](bool isMissing, const QString& name) { isMissing ? missing.append(name) : void(); };
-        check(colorFile.isEmpty(), QStringLiteral("the color file"));
-        check(fontFile.isEmpty(), QStringLiteral("the font file"));
-        check(displaySizes.isEmpty(), QStringLiteral("the display sizes"));
-        check(iconFolder.isEmpty(), QStringLiteral("the icon directory"));
-        check(mappingTable.isEmpty(), QStringLiteral("the icon mapping table"));
+        for (const auto& [isMissing, name] : parts) {
+            if (isMissing)
+                missing.append(name);
+        }
         if (missing.isEmpty())
             return QString();
         return QStringLiteral("The service %1 does not provide %2; the log contains the reasons.")
@@ -146,8 +151,9 @@ void ServiceSource::onOwnerChanged(const QString& /*name*/, const QString& /*old
 void ServiceSource::reportLostBus()
 {
     repetition.stop();
-    Q_EMIT answered(Answers(), QStringLiteral("The connection to the D-Bus is lost, and this process cannot reconnect "
-                                              "to it; restart the process."));
+    Q_EMIT answered(Answers(),
+                    QStringLiteral("The connection to the D-Bus is lost, and this process cannot reconnect "
+                                   "to it; restart the process."));
 }
 
 } // namespace QmlHost

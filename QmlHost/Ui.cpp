@@ -6,6 +6,9 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QVector>
+
+#include <utility>
 
 namespace
 {
@@ -24,11 +27,6 @@ TarnisFontHandler* newFonts(const Answers& answers, QObject* parent)
     if (answers.fontFile.isAnswered())
         return new TarnisFontHandler(answers.fontFile.value, parent);
     return new QmlHost::QuietFontHandler(parent);
-}
-
-TarnisElementDimensionHandler* newDimensions(const Answers& answers, QObject* parent)
-{
-    return new TarnisElementDimensionHandler(answers.displaySizes.value, parent);
 }
 
 TarnisIconHandler* newIcons(const Answers& answers, QObject* parent)
@@ -53,14 +51,9 @@ namespace QmlHost
 Ui::Ui(Resources& sharedResources, QQmlEngine& qmlEngine)
     : resources(&sharedResources)
     , engine(qmlEngine)
-    , built(sharedResources.answers())
-    , colorHandler(newColors(built, this))
-    , fontHandler(newFonts(built, this))
-    , dimensionHandler(newDimensions(built, this))
-    , iconHandler(newIcons(built, this))
+    , answers(sharedResources.answers())
 {
-    replaceTexts();
-    connect(resources, &Resources::answersChanged, this, &Ui::update);
+    connect(resources, &Resources::answersChanged, this, &Ui::followAnswers);
     connect(resources, &Resources::languageChanged, this, &Ui::followLanguage);
     connect(resources, &Resources::languagesChanged, this, &Ui::languagesChanged);
     connect(resources, &Resources::readyChanged, this, &Ui::readyChanged);
@@ -68,28 +61,38 @@ Ui::Ui(Resources& sharedResources, QQmlEngine& qmlEngine)
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &Ui::followScreen);
 }
 
-TarnisColorHandler* Ui::colors() const
+TarnisColorHandler* Ui::colors()
 {
+    if (colorHandler == nullptr)
+        colorHandler = newColors(answers, this);
     return colorHandler;
 }
 
-TarnisFontHandler* Ui::fonts() const
+TarnisFontHandler* Ui::fonts()
 {
+    if (fontHandler == nullptr)
+        fontHandler = newFonts(answers, this);
     return fontHandler;
 }
 
-TarnisElementDimensionHandler* Ui::dimensions() const
+TarnisElementDimensionHandler* Ui::dimensions()
 {
+    if (dimensionHandler == nullptr)
+        dimensionHandler = new TarnisElementDimensionHandler(answers.displaySizes.value, this);
     return dimensionHandler;
 }
 
-TarnisTextHandler* Ui::texts() const
+TarnisTextHandler* Ui::texts()
 {
+    if (textHandler == nullptr)
+        textHandler = newTexts();
     return textHandler;
 }
 
-TarnisIconHandler* Ui::icons() const
+TarnisIconHandler* Ui::icons()
 {
+    if (iconHandler == nullptr)
+        iconHandler = newIcons(answers, this);
     return iconHandler;
 }
 
@@ -119,72 +122,69 @@ QString Ui::problem() const
     return resources.isNull() ? QString() : resources->problem();
 }
 
-void Ui::update()
+void Ui::followAnswers()
 {
-    const Answers old = std::exchange(built, resources->answers());
-    const bool haveColors = built.colorFile != old.colorFile;
-    const bool haveFonts = built.fontFile != old.fontFile;
-    const bool haveDimensions = built.displaySizes != old.displaySizes;
-    const bool haveIcons = built.icons != old.icons;
-    const bool haveTexts = built.textFolder != old.textFolder && resources->textManager() == nullptr;
-    if (haveColors)
-        replace(colorHandler, newColors(built, this));
-    if (haveFonts)
-        replace(fontHandler, newFonts(built, this));
-    if (haveDimensions)
-        replace(dimensionHandler, newDimensions(built, this));
-    if (haveIcons)
-        replace(iconHandler, newIcons(built, this));
-    if (haveTexts)
-        replaceTexts();
-    if (haveColors)
-        Q_EMIT colorsChanged();
-    if (haveFonts)
-        Q_EMIT fontsChanged();
-    if (haveDimensions)
-        Q_EMIT dimensionsChanged();
-    if (haveIcons)
-        Q_EMIT iconsChanged();
-    if (haveTexts)
-        Q_EMIT textsChanged();
+    const Answers old = std::exchange(answers, resources->answers());
+    QVector<void (Ui::*)()> signalsToEmit;
+    if (answers.colorFile != old.colorFile) {
+        release(colorHandler);
+        signalsToEmit.append(&Ui::colorsChanged);
+    }
+    if (answers.fontFile != old.fontFile) {
+        release(fontHandler);
+        signalsToEmit.append(&Ui::fontsChanged);
+    }
+    if (answers.displaySizes != old.displaySizes) {
+        release(dimensionHandler);
+        signalsToEmit.append(&Ui::dimensionsChanged);
+    }
+    if (answers.icons != old.icons) {
+        release(iconHandler);
+        signalsToEmit.append(&Ui::iconsChanged);
+    }
+    if (answers.textFolder != old.textFolder && resources->textManager() == nullptr) {
+        release(textHandler);
+        signalsToEmit.append(&Ui::textsChanged);
+    }
+    for (const auto emitSignal : signalsToEmit)
+        Q_EMIT(this->*emitSignal)();
 }
 
 void Ui::followScreen(const QScreen* screen)
 {
     if (screen == nullptr)
         return;
-    replace(fontHandler, newFonts(built, this));
-    replace(dimensionHandler, newDimensions(built, this));
+    release(fontHandler);
+    release(dimensionHandler);
     Q_EMIT fontsChanged();
     Q_EMIT dimensionsChanged();
 }
 
 void Ui::followLanguage()
 {
-    if (ownTextManager != nullptr)
+    if (!ownTextManager.isNull())
         ownTextManager->setLanguage(resources->language());
     Q_EMIT languageChanged();
 }
 
-void Ui::replaceTexts()
+TarnisTextHandler* Ui::newTexts()
 {
-    if (resources->textManager() != nullptr) {
-        replace(textHandler, new TarnisTextHandler(*resources->textManager(), this));
-        return;
-    }
-    const QString directory = built.textFolder.isAnswered() ? built.textFolder.value : noDirectory();
-    ownTextManager = new TextManager(directory, resources->language());
-    replace(textHandler, new TarnisTextHandler(*ownTextManager, this));
-    ownTextManager->setParent(textHandler); // so that it lives as long
+    if (!resources.isNull() && resources->textManager() != nullptr)
+        return new TarnisTextHandler(*resources->textManager(), this);
+    ownTextManager =
+        new TextManager(answers.textFolder.isAnswered() ? answers.textFolder.value : noDirectory(), language());
+    auto* const handler = new TarnisTextHandler(*ownTextManager, this);
+    ownTextManager->setParent(handler); // so that it lives as long
+    return handler;
 }
 
 template <typename Handler>
-void Ui::replace(Handler*& current, Handler* fresh)
+void Ui::release(Handler*& handler)
 {
-    Handler* const old = std::exchange(current, fresh);
+    Handler* const old = std::exchange(handler, nullptr);
     if (old == nullptr)
         return;
-    old->setParent(nullptr); // otherwise the garbage collector would leave it alone
+    old->setParent(nullptr); // the garbage collector leaves children alone
     engine.newQObject(old);
 }
 

@@ -17,9 +17,10 @@ namespace QmlHost
 
 /// The QML singleton `Ui` of the module `Tarnis`, one for each engine, with handlers of its own. The engine owns it.
 ///
-/// A handler is replaced when its files or the primary screen change; all of them are before the first signal. From
-/// then on the engine's garbage collector owns the old handler, so scripts may keep it. C++ code must not: it reads the
-/// property again after the signal.
+/// A handler is built, and its files are read, when it is first asked for. When its files or the primary screen change,
+/// it is released: the property then has another one, built from the new answers. All are released before the first
+/// signal. From then on the engine's garbage collector owns the old handler, so scripts may keep it. C++ code must not:
+/// it reads the property again after the signal.
 class Ui : public QObject
 {
     Q_OBJECT
@@ -42,11 +43,11 @@ public:
     /// The object lives as long as the engine. Without the resources it keeps its handlers, and nothing changes.
     Ui(Resources& sharedResources, QQmlEngine& qmlEngine);
 
-    TarnisColorHandler* colors() const;
-    TarnisFontHandler* fonts() const;
-    TarnisElementDimensionHandler* dimensions() const;
-    TarnisTextHandler* texts() const;
-    TarnisIconHandler* icons() const;
+    TarnisColorHandler* colors();
+    TarnisFontHandler* fonts();
+    TarnisElementDimensionHandler* dimensions();
+    TarnisTextHandler* texts();
+    TarnisIconHandler* icons();
     QString language() const;
     void setLanguage(const QString& name);
     QStringList languages() const;
@@ -65,22 +66,22 @@ Q_SIGNALS:
     void problemChanged();
 
 private:
-    void update();
+    void followAnswers();
     void followScreen(const QScreen* screen);
     void followLanguage();
-    void replaceTexts();
+    TarnisTextHandler* newTexts();
     template <typename Handler>
-    void replace(Handler*& current, Handler* fresh);
+    void release(Handler*& handler);
 
     QPointer<Resources> resources;
     QQmlEngine& engine;
-    Answers built; // what the handlers are built from
+    Answers answers; // that the handlers are built from
     TarnisColorHandler* colorHandler = nullptr;
     TarnisFontHandler* fontHandler = nullptr;
     TarnisElementDimensionHandler* dimensionHandler = nullptr;
     TarnisIconHandler* iconHandler = nullptr;
     TarnisTextHandler* textHandler = nullptr;
-    TextManager* ownTextManager = nullptr; // child of the text handler; null if the texts come from the host
+    QPointer<TextManager> ownTextManager; // child of the text handler, unless the texts come from the host
 };
 
 } // namespace QmlHost

@@ -152,8 +152,9 @@ private Q_SLOTS:
         ui.setLanguage("fr");
         QVERIFY(ui.waitUntilReady(10000));
         const Page first(lookups);
-        const Page second(lookups + "property var names: [Ui.language].concat(Ui.languages)\n"
-                                    "function choose() { Ui.language = 'de' }");
+        const Page second(lookups
+                          + "property var names: [Ui.language].concat(Ui.languages)\n"
+                            "function choose() { Ui.language = 'de' }");
         QCOMPARE(first["all"].toString(), expected("Annuler"));
         second.call("choose");
         QCOMPARE(first["all"].toString(), expected("Abbrechen"));
@@ -257,8 +258,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(ui.problem(), path + " is not a directory", 10000);
         shell("touch dimensions/large.ini; mv $PWD ../later");
         QVERIFY(ui.waitUntilReady(10000));
-        QTRY_COMPARE_WITH_TIMEOUT(
-            ui.problem(), path + "/dimensions/large.ini is not named WIDTHxHEIGHT.ini", 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(ui.problem(), path + "/dimensions/large.ini is not named WIDTHxHEIGHT.ini", 10000);
         QCOMPARE(page["color"].toString(), QString("#1f2a37"));
         QCOMPARE(page["height"], QVariant());
     }
@@ -280,7 +280,8 @@ private Q_SLOTS:
             connect(kept.value<QObject*>(), &QObject::destroyed, [&destroyed] { ++destroyed; });
         for (const QString color : {"#fe01fd", "#fe01fe", "#1f2a37"}) {
             shell("for f in *.ini dimensions/* texts/* icons/mapping.json; do sed -i s/xyz/xyz/ $f; done; "
-                  "sed -i '/Day/,/Night/s/^Text=.*/Text=" + color + "/' colors.ini; echo >> icons/mapping.json");
+                  "sed -i '/Day/,/Night/s/^Text=.*/Text="
+                  + color + "/' colors.ini; echo >> icons/mapping.json");
             QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), color, 10000);
             page.engine.collectGarbage();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -6,23 +6,37 @@ Window {
     width: 320
     height: 160
     visible: true
-    color: Ui.colors.getColor("Day", "Background")
 
-    Row {
-        anchors.centerIn: parent
-        spacing: 16
+    Text {
+        anchors.fill: parent
+        wrapMode: Text.Wrap
+        text: Ui.problem
+    }
 
-        Image {
-            source: Ui.icons.getIconPathAsFileUrl("home", "nightMode")
-        }
+    // Created when the service has answered. Until then all lookups are empty.
+    Loader {
+        anchors.fill: parent
+        active: Ui.ready
+        sourceComponent: Rectangle {
+            color: Ui.colors.getColor("Day", "Background")
 
-        Text {
-            color: Ui.colors.getColor("Day", "Text")
-            font.family: Ui.fonts.getFontFamily("Text")
-            font.pointSize: Ui.fonts.getFontPointSize("Text", "Button")
-            height: Ui.dimensions.uiElementDimensions["Button/height"]
-            text: Ui.texts.translatedTexts["text://Button/Ok"]
-            Component.onCompleted: console.log(color, font.family, font.pointSize, height, text)
+            Row {
+                anchors.centerIn: parent
+                spacing: 16
+
+                Image {
+                    source: Ui.icons.getIconPathAsFileUrl("home", "nightMode")
+                }
+
+                Text {
+                    color: Ui.colors.getColor("Day", "Text")
+                    font.family: Ui.fonts.getFontFamily("Text")
+                    font.pointSize: Ui.fonts.getFontPointSize("Text", "Button")
+                    height: Ui.dimensions.uiElementDimensions["Button/height"]
+                    text: Ui.texts.translatedTexts["text://Button/Ok"]
+                    Component.onCompleted: console.log(color, font.family, font.pointSize, height, text)
+                }
+            }
         }
     }
 }
