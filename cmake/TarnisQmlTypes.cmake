@@ -1,12 +1,12 @@
 # Makes the type description of the QML module Tarnis, for Qt Creator and qmllint, from the meta-objects of these
 # headers.
-set(headers Gallery/QmlTypes.h Gallery/UiResources.h
+set(headers QmlHost/QmlTypes.h QmlHost/Ui.h
     TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h
     TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h
     TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h
     TarnisLibrary/DeviceUiResourcesLibrary/TarnisTextHandler.h
     TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h)
-set(includes $<TARGET_PROPERTY:GalleryParts,INCLUDE_DIRECTORIES>)
+set(includes $<TARGET_PROPERTY:QmlHost,INCLUDE_DIRECTORIES>)
 get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
 get_filename_component(qt_programs ${qmake} DIRECTORY)
 get_target_property(qt_core Qt5::Core LOCATION)
@@ -22,21 +22,21 @@ foreach(header IN LISTS headers)
     list(APPEND descriptions ${output}.json)
 endforeach()
 
-# The description fits every host, so it does not name the gallery's namespace. The readers of Qt 6 expect the major
-# version in each revision and the dependencies in the qmldir file, and they would look up keys of a QVariantMap in the
-# type of that name.
+# QML does not know the namespace. The readers of Qt 6 expect the major version in each revision and the dependencies in
+# the qmldir file, QString in properties, and they would look up keys of a QVariantMap in the type of that name.
 add_custom_command(OUTPUT tarnis.qmltypes DEPENDS ${descriptions}
     COMMAND Qt5::moc --collect-json -o types.json ${descriptions}
-    COMMAND sed -i s/Gallery::// types.json
+    COMMAND sed -i s/QmlHost::// types.json
     COMMAND ${qt_programs}/qmltyperegistrar --generate-qmltypes=tarnis.qmltypes --import-name=Tarnis
         --major-version=1 --minor-version=0 --foreign-types=${qt_libraries}/metatypes/qt5core_metatypes.json
         -o registration.cpp types.json
     COMMAND sed -i -e "/dependencies:/d" -e "s/Revisions: .0./Revisions: [256]/" -e s/QVariantMap/QVariant/
+        -e "/Property/s/.string./\"QString\"/"
         tarnis.qmltypes
     VERBATIM)
 add_custom_target(tarnis-qmltypes ALL DEPENDS tarnis.qmltypes)
 # Qt Creator looks beside the modules of Qt 5. The qmllint of Qt 6 must not see those, so it gets a folder of its own.
 foreach(imports IN ITEMS ${CMAKE_INSTALL_LIBDIR}/qt5/qml ${CMAKE_INSTALL_DATADIR}/tarnis/qml)
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarnis.qmltypes ${PROJECT_SOURCE_DIR}/Gallery/qmldir
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tarnis.qmltypes ${PROJECT_SOURCE_DIR}/QmlHost/qmldir
         DESTINATION ${imports}/Tarnis COMPONENT development)
 endforeach()

@@ -1,18 +1,17 @@
 #pragma once
 
-#include "Gallery/UiResources.h"
+#include "QmlHost/Ui.h"
 
 #include <QtQml>
 
-// Describes the module Tarnis to tools that read QML: only what every host offers, nothing of the gallery's own. This
-// file is not compiled into any program.
+// Describes the module Tarnis to tools that read QML. This file is not compiled into any program.
 
-namespace Gallery
+namespace QmlHost
 {
 
 struct QmlUi {
     Q_GADGET
-    QML_FOREIGN(Gallery::UiResources)
+    QML_FOREIGN(QmlHost::Ui)
     QML_NAMED_ELEMENT(Ui)
     QML_SINGLETON
 };
@@ -47,4 +46,4 @@ struct QmlIconHandler {
     QML_ANONYMOUS
 };
 
-} // namespace Gallery
+} // namespace QmlHost
