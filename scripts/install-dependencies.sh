@@ -14,6 +14,7 @@ packages=(
   g++ cmake ninja-build git ca-certificates
   qtbase5-dev qtdeclarative5-dev qtdeclarative5-private-dev
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
+  qml-module-qttest
   libqt5svg5 fonts-inter fonts-dejavu-core fonts-ipaexfont-gothic
   dbus-daemon libdbus-1-dev pkg-config systemd xvfb x11-xserver-utils python3 python3-jsonschema
 )
