@@ -14,45 +14,49 @@ namespace QmlHost
 /// What a source says of the resources of the device. Each part is answered or not; a part that is not answered has its
 /// default value. Equal parts name the same files, none of which has changed in between.
 struct Answers {
+    /// One part with the state of its files.
     template <typename Value>
     struct Part {
-        Value value;
-        QByteArray fingerprint; // of the files that the value names; null if the part is not answered
+        Value value;            ///< What the source says.
+        QByteArray fingerprint; ///< Of the files that the value names; null if the part is not answered.
 
+        /// Whether the value means anything.
         bool isAnswered() const { return !fingerprint.isNull(); }
+
+        /// Whether the value is equal and no file has changed.
         bool operator==(const Part& other) const { return value == other.value && fingerprint == other.fingerprint; }
+
+        /// The opposite.
         bool operator!=(const Part& other) const { return !(*this == other); }
     };
 
-    struct Icons {
-        QString folder;
-        QString mappingTable; // JSON text
+    Part<QString> colorFile;                         ///< Path.
+    Part<QString> fontFile;                          ///< Path.
+    Part<QList<QPair<QSize, QString>>> displaySizes; ///< In pixels, with the path of the dimension file.
+    Part<QPair<QString, QString>> icons;             ///< Path of the directory, and the mapping table as JSON text.
+    Part<QString> textFolder;                        ///< Path.
+    QStringList languages;                           ///< Of the text folder, sorted.
 
-        bool operator==(const Icons& other) const
-        {
-            return folder == other.folder && mappingTable == other.mappingTable;
-        }
-    };
-
-    Part<QString> colorFile;
-    Part<QString> fontFile;
-    Part<QList<QPair<QSize, QString>>> displaySizes; // in pixels, with the path of the dimension file
-    Part<Icons> icons;
-    Part<QString> textFolder;
-    QStringList languages; // of the text folder, sorted
-
-    /// Each of these answers one part and records the state of its files. A null or empty value, which stands for a
-    /// question without an answer, changes nothing. They read the file system: call them from the worker thread.
+    /// Answers this part and records the state of its file. An empty value, which is what a failed question returns,
+    /// changes nothing. This function and the next ones read the file system: call them from the worker thread.
     void setColorFile(const QString& path);
+
+    /// As setColorFile().
     void setFontFile(const QString& path);
+
+    /// As setColorFile().
     void setDisplaySizes(const QList<QPair<QSize, QString>>& sizes);
-    /// `files` are icons whose changes matter; by default none is looked at.
+
+    /// As setColorFile(). `files` are the icons whose changes matter.
     void setIcons(const QString& folder, const QString& mappingTable, const QStringList& files = {});
-    /// The texts of the resource directory, if it has any.
+
+    /// Answers with the texts of the resource directory, if it has any.
     void setTexts(const QString& resourceDirectory);
 
+    /// Whether there is anything for QML to look up.
     bool isAnyAnswered() const;
 
+    /// Whether all parts are equal.
     bool operator==(const Answers& other) const;
 
     /// Takes over the parts that are not answered here.

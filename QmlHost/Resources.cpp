@@ -16,6 +16,7 @@ Resources::Resources(std::unique_ptr<Source> answerSource, TextManager* hostText
         connect(givenTextManager, &TextManagerBase::languageReloaded, this, &Resources::languageChanged);
     source->moveToThread(&thread);
     connect(&thread, &QThread::started, source, &Source::start);
+    connect(this, &Resources::askRequested, source, &Source::ask);
     connect(&thread, &QThread::finished, source, &QObject::deleteLater);
     connect(source, &Source::answered, this, &Resources::take);
     thread.start();
@@ -68,11 +69,6 @@ QStringList Resources::languages() const
 const TextManager* Resources::textManager() const
 {
     return givenTextManager;
-}
-
-void Resources::ask()
-{
-    QMetaObject::invokeMethod(source, &Source::ask, Qt::QueuedConnection);
 }
 
 void Resources::take(const Answers& fresh, const QString& freshProblem)

@@ -41,10 +41,10 @@ public:
     /// The host's, or null.
     const TextManager* textManager() const;
 
-    /// Lets the source ask again. Does not wait for it.
-    void ask();
-
 Q_SIGNALS:
+    /// Emit it to let the source ask again.
+    void askRequested();
+
     void answersChanged();
     void readyChanged();
     void problemChanged();

@@ -59,8 +59,10 @@ void TarnisUi::publish()
 bool TarnisUi::waitUntilReady(int milliseconds)
 {
     QEventLoop loop;
+    QTimer timer;
     connect(this, &TarnisUi::readyChanged, &loop, &QEventLoop::quit);
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(milliseconds);
     if (!isReady())
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     return isReady();
@@ -93,5 +95,5 @@ QStringList TarnisUi::languages() const
 
 void TarnisUi::askAgain()
 {
-    resources->ask();
+    Q_EMIT resources->askRequested();
 }

@@ -58,8 +58,10 @@ public:
     /// One sentence on why the last question was not answered completely; empty if it was. What was there stays.
     QString problem() const;
 
-    /// `en` at first, or the language of the text manager that was passed in.
+    /// The language of the texts: `en` at first, or that of the text manager that was passed in.
     QString language() const;
+
+    /// Changes the language of all engines. The texts are read on the calling thread.
     void setLanguage(const QString& name);
 
     /// The languages of the text directory, sorted. Empty if the texts come from the host's text manager.
@@ -69,9 +71,16 @@ public:
     void askAgain();
 
 Q_SIGNALS:
+    /// isReady() has become true.
     void readyChanged();
+
+    /// problem() has changed.
     void problemChanged();
+
+    /// language() has changed, or its texts have been read again.
     void languageChanged();
+
+    /// languages() has changed.
     void languagesChanged();
 
 private:

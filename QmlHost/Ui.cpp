@@ -31,9 +31,9 @@ TarnisFontHandler* newFonts(const Answers& answers, QObject* parent)
 
 TarnisIconHandler* newIcons(const Answers& answers, QObject* parent)
 {
-    const Answers::Icons& icons = answers.icons.value;
+    const auto& [folder, mappingTable] = answers.icons.value;
     if (answers.icons.isAnswered())
-        return new TarnisIconHandler(icons.folder, icons.mappingTable, parent);
+        return new TarnisIconHandler(folder, mappingTable, parent);
     return new QmlHost::QuietIconHandler(parent);
 }
 
