@@ -1,0 +1,149 @@
+// The host library with the real service.
+
+#include "QmlHost/TarnisUi.h"
+#include "tests/support/HostPage.h"
+
+#include <atomic>
+#include <optional>
+
+namespace
+{
+
+// Counts the records of a failed call to the service, and those that the library logs on the main thread.
+struct Log {
+    Log() { failedCalls = recordsOfLookups = 0; }
+    ~Log() { qInstallMessageHandler(previous); }
+
+    inline static std::atomic_int failedCalls, recordsOfLookups;
+
+private:
+    static void record(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
+    {
+        if (text.startsWith("\"D-Bus call to method"))
+            ++failedCalls;
+        else if (QThread::currentThread() == qApp->thread() && QByteArray(context.category) == "default")
+            ++recordsOfLookups;
+    }
+
+    const QtMessageHandler previous = qInstallMessageHandler(record);
+};
+
+} // namespace
+
+class QmlHostServiceTest : public QObject
+{
+    Q_OBJECT
+
+    PrivateBus bus;
+    std::optional<TestProcess> module;
+    std::optional<ResourceCopy> resources;
+
+    void startModule()
+    {
+        module.emplace(TARNIS_MODULE, QStringList{"--resources", resources->path});
+        QVERIFY(module->firstLine().endsWith(resources->path));
+    }
+
+    void signalModule(int signal) { ::kill(static_cast<pid_t>(module->process().processId()), signal); }
+
+private Q_SLOTS:
+    void init() { resources.emplace(); }
+
+    void cleanup()
+    {
+        module.reset();
+        resources.reset();
+    }
+
+    void everyEngineGetsEmptyLookupsAndThenTheAnswers()
+    {
+        const Log log;
+        TarnisUi ui;
+        ui.publish();
+        const Page first(lookups);
+        QCOMPARE(first["all"].toString(), QString(",,0,,,,false"));
+        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("Module.Tarnis does not answer"), 10000);
+        QVERIFY(!ui.waitUntilReady(1));
+        startModule();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page second(lookups);
+        for (const Page* page : {&first, &second})
+            QCOMPARE((*page)["all"].toString(), resources->lookups("Cancel"));
+        QCOMPARE(ui.problem(), QString());
+        QCOMPARE(Log::recordsOfLookups.load(), 0);
+    }
+
+    void stoppedServiceBlocksOnlyTheEndAndForOneCall()
+    {
+        startModule();
+        signalModule(SIGSTOP);
+        const Log log;
+        {
+            TarnisUi ui;
+            ui.publish();
+            const Page page(lookups);
+            QVERIFY(!ui.waitUntilReady(100)); // by then the first call is under way
+            QCOMPARE(ui.problem(), QString());
+        }
+        QCOMPARE(Log::failedCalls.load(), 2); // one call leaves two records
+        TarnisUi ui;
+        ui.publish();
+        const Page page(lookups);
+        QVERIFY(!ui.waitUntilReady(100));
+        signalModule(SIGCONT);
+        QVERIFY(ui.waitUntilReady(10000));
+        QCOMPARE(page["all"].toString(), resources->lookups("Cancel"));
+    }
+
+    void onlyWhatARestartedServiceChangesIsReadAgain()
+    {
+        startModule();
+        TarnisUi ui;
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups + "property QtObject ui: Ui");
+        auto* const object = page["ui"].value<QObject*>();
+        QSignalSpy colors(object, SIGNAL(colorsChanged()));
+        QSignalSpy icons(object, SIGNAL(iconsChanged()));
+        QSignalSpy texts(object, SIGNAL(textsChanged()));
+        startModule(); // the old one is killed
+        resources->shell("sed -i 's/\"Cancel\"/\"Away\"/' texts/en.json");
+        ui.askAgain();
+        QTRY_COMPARE_WITH_TIMEOUT(page["text"].toString(), QString("Away"), 10000);
+        resources->shell("sed -i s/#1f2a37/#fe01fd/ colors.ini");
+        startModule();
+        QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
+        QCOMPARE((QList<int>{colors.count(), icons.count(), texts.count()}), (QList<int>{1, 0, 1}));
+    }
+
+    void failedQuestionKeepsWhatWasThereAndIsRepeated()
+    {
+        startModule();
+        TarnisUi ui;
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups + "property string problem: Ui.problem");
+        resources->shell("mv icons/mapping.json away; sed -i s/#1f2a37/#fe01fd/ colors.ini");
+        ui.askAgain();
+        QTRY_VERIFY_WITH_TIMEOUT(page["problem"].toString().contains("the icon mapping table;"), 10000);
+        QCOMPARE(page["all"].toString(), resources->lookups("Cancel").replace("#1f2a37", "#fe01fd"));
+        resources->shell("mv away icons/mapping.json");
+        QTRY_COMPARE_WITH_TIMEOUT(page["problem"].toString(), QString(), 10000);
+    }
+
+    // The last one: this process never gets another bus.
+    void lostBusIsReported()
+    {
+        startModule();
+        TarnisUi ui;
+        QVERIFY(ui.waitUntilReady(10000));
+        bus.daemon.process().kill();
+        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("this process cannot reconnect"), 10000);
+        QVERIFY(ui.isReady());
+        TarnisUi later;
+        QTRY_COMPARE_WITH_TIMEOUT(later.problem(), ui.problem(), 10000);
+    }
+};
+
+QTEST_MAIN(QmlHostServiceTest)
+#include "QmlHostServiceTest.moc"
