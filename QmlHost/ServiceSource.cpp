@@ -5,6 +5,7 @@
 #include "TarnisLibrary/TarnisDefinitions.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusServiceWatcher>
 #include <QFileInfo>
 
@@ -109,10 +110,13 @@ ServiceSource::~ServiceSource() = default;
 void ServiceSource::start()
 {
     QDBusConnection bus = QDBusConnection::systemBus();
+    busFailure = bus.isConnected()
+        ? QStringLiteral("The connection to the D-Bus is lost")
+        : QStringLiteral("There is no connection to the D-Bus (%1)").arg(bus.lastError().message());
     const auto* watcher = new QDBusServiceWatcher(busName(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ServiceSource::onOwnerChanged);
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
-                QStringLiteral("Disconnected"), this, SLOT(reportLostBus()));
+                QStringLiteral("Disconnected"), this, SLOT(reportBusFailure()));
     ask();
 }
 
@@ -121,7 +125,7 @@ void ServiceSource::ask()
     if (isStopRequested())
         return;
     if (!QDBusConnection::systemBus().isConnected()) {
-        reportLostBus();
+        reportBusFailure();
         return;
     }
     Interview interview;
@@ -148,12 +152,11 @@ void ServiceSource::onOwnerChanged(const QString& /*name*/, const QString& /*old
 }
 
 // Qt connects a process to each bus once.
-void ServiceSource::reportLostBus()
+void ServiceSource::reportBusFailure()
 {
     repetition.stop();
-    Q_EMIT answered(Answers(),
-                    QStringLiteral("The connection to the D-Bus is lost, and this process cannot reconnect "
-                                   "to it; restart the process."));
+    const QString advice = QStringLiteral(", and this process cannot reconnect to it; restart the process.");
+    Q_EMIT answered(Answers(), busFailure + advice);
 }
 
 } // namespace QmlHost

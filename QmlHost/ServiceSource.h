@@ -21,11 +21,12 @@ public:
     void ask() override;
 
 private:
-    Q_SLOT void reportLostBus(); // QDBusConnection connects to slots by name only
+    Q_SLOT void reportBusFailure(); // QDBusConnection connects to slots by name only
     void onOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
 
     static constexpr int firstInterval = 500; // milliseconds
 
+    QString busFailure; // what to report when the bus is not connected
     QTimer repetition;
     int nextInterval = firstInterval;
 };

@@ -138,10 +138,10 @@ private Q_SLOTS:
         TarnisUi ui;
         QVERIFY(ui.waitUntilReady(10000));
         bus.daemon.process().kill();
-        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("this process cannot reconnect"), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("is lost, and this process cannot reconnect"), 10000);
         QVERIFY(ui.isReady());
         TarnisUi later;
-        QTRY_COMPARE_WITH_TIMEOUT(later.problem(), ui.problem(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(later.problem().contains("no connection to the D-Bus ("), 10000);
     }
 };
 
