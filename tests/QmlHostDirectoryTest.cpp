@@ -9,6 +9,9 @@
 
 #include <optional>
 
+namespace Tests
+{
+
 class QmlHostDirectoryTest : public QObject
 {
     Q_OBJECT
@@ -134,5 +137,7 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(QmlHostDirectoryTest)
+} // namespace Tests
+
+QTEST_MAIN(Tests::QmlHostDirectoryTest)
 #include "QmlHostDirectoryTest.moc"

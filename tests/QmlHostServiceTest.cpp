@@ -6,6 +6,9 @@
 #include <atomic>
 #include <optional>
 
+namespace Tests
+{
+
 namespace
 {
 
@@ -145,5 +148,7 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(QmlHostServiceTest)
+} // namespace Tests
+
+QTEST_MAIN(Tests::QmlHostServiceTest)
 #include "QmlHostServiceTest.moc"

@@ -7,6 +7,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+namespace Tests
+{
+
 /// Members of a Page: one lookup of each handler, and all results in one text.
 inline const QByteArray lookups =
     "property string color: Ui.colors.getColor('Day', 'Text')\n"
@@ -70,3 +73,5 @@ public:
     const QTemporaryDir parent;
     const QString path = parent.filePath("resources");
 };
+
+} // namespace Tests
