@@ -34,6 +34,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "${CPACK_DEBIAN_RUNTIME_PACKAGE_NAME} (= ${debian_version}), qtbase5-dev (>= 5.15)")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS "qtdeclarative5-dev (>= 5.15)") # for the component QmlHost
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "UI resources for the QML front end of a device: development files
 Contains headers, CMake and pkg-config files, a stand-in for the classes of
 the host platform, and QML types for Qt Creator and qmllint.")
