@@ -13,8 +13,8 @@ class QSocketNotifier;
 namespace QmlHost
 {
 
-/// Tells when files change, however they do: written in place, renamed over, removed, or reached through a directory or
-/// a symbolic link that is replaced. It watches directories only, since an editor may replace a file when it saves it.
+/// Reports changes of files: files that are written in place, replaced or removed, and directories and symbolic links
+/// on the way to them that are replaced. It watches directories only, because editors may replace a file to save it.
 class DirectoryWatcher : public QObject
 {
     Q_OBJECT

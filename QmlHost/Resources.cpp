@@ -79,7 +79,7 @@ void Resources::take(const Answers& fresh, const QString& freshProblem)
     const Answers oldAnswers = lastAnswers;
     lastAnswers = fresh;
     lastAnswers.complete(oldAnswers);
-    // Whoever hears of one change finds all of them made.
+    // Everything is up to date before the first signal.
     if (!(lastAnswers == oldAnswers))
         Q_EMIT answersChanged();
     if (languages() != oldLanguages)

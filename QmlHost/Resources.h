@@ -12,7 +12,7 @@
 namespace QmlHost
 {
 
-/// What all engines have in common: the answers of the source, which works on a thread of its own, and the language.
+/// What all engines share: the answers of the source, which works on a worker thread, and the language.
 class Resources : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ QString busName()
     return QStringLiteral("Module.") + TarnisDefinitions::getModuleName();
 }
 
-// The five questions and what came of them.
+// The five questions to the service and its answers.
 class Interview
 {
 public:

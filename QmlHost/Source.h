@@ -30,7 +30,7 @@ Q_SIGNALS:
     void answered(const QmlHost::Answers& answers, const QString& problem);
 
 protected:
-    /// Whether no further question is to be asked, because the host ends. Call it from the worker thread.
+    /// Whether the host ends, so that no further question may be asked. Call it from the worker thread.
     static bool isStopRequested();
 };
 

@@ -21,10 +21,10 @@ class Resources;
 ///     QQmlApplicationEngine engine(QUrl("qrc:/main.qml"));
 ///
 /// Use it from the thread of the QGuiApplication, which must exist before and end after it. No function waits for the
-/// service except the destructor and waitUntilReady(): a thread of its own asks for the resources and follows their
+/// service except the destructor and waitUntilReady(): a worker thread asks for the resources and follows their
 /// changes. The library's records of failed questions come from that thread. The files are read on the caller's thread.
 ///
-/// Delete the QML engines first. One that lives longer keeps its handlers, and nothing changes there any more.
+/// Delete the QML engines first. An engine that outlives this object keeps its handlers, which no longer change.
 class TarnisUi : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ public:
     /// A resource directory, without a bus, read by the rules of the service. Its changes are followed.
     static std::unique_ptr<QmlHost::Source> directory(const QString& path);
 
-    /// Serves every QML engine of the process that asks for `Ui` from now on. Each gets a `Ui` and handlers of its own.
+    /// Serves every QML engine of the process that asks for `Ui` from now on. Each gets its own `Ui` and handlers.
     /// The object that was published last serves; engines that have got their `Ui` keep it.
     void publish();
 

@@ -15,7 +15,7 @@ class QScreen;
 namespace QmlHost
 {
 
-/// The QML singleton `Ui` of the module `Tarnis`, one for each engine, with handlers of its own. The engine owns it.
+/// The QML singleton `Ui` of the module `Tarnis`, one for each engine, with separate handlers. The engine owns it.
 ///
 /// A handler is built, and its files are read, when it is first asked for. When its files or the primary screen change,
 /// it is released: the property then has another one, built from the new answers. All are released before the first
