@@ -20,6 +20,9 @@ QObject* Plugin::newUi(QQmlEngine& engine)
         const QString directory = qEnvironmentVariable("TARNIS_RESOURCES");
         resources = new Resources(directory.isEmpty() ? TarnisUi::service() : TarnisUi::directory(directory), nullptr);
         resources->setParent(QCoreApplication::instance());
+        // While the application still exists: afterwards the worker thread could not delete the source.
+        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, resources,
+                [published = resources.data()] { delete published; });
     }
     return new Ui(*resources, engine);
 }

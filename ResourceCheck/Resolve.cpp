@@ -4,6 +4,7 @@
 #include "ResourceCheck/reading/Resources.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
+#include "ResourceFormat/PublishedResources.h"
 #include "ResourceFormat/RegularFile.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
@@ -14,7 +15,6 @@
 #include <QDir>
 #include <QFile>
 
-#include <algorithm>
 #include <cstdio>
 
 namespace ResourceCheck
@@ -60,17 +60,11 @@ bool resolveFont(const Resources& resources, const QStringList& names)
 
 bool resolveDimension(const Resources& resources, const QStringList& names)
 {
-    QList<QPair<QSize, QString>> sizes;
-    for (const DimensionFile& dimension : resources.dimensions) {
-        if (dimension.size.isValid())
-            sizes.append({dimension.size, dimension.file.path()});
-    }
-    // In the order of the service, because the library uses the first of two that are equally near.
-    std::sort(sizes.begin(), sizes.end(), [](const auto& left, const auto& right) {
-        return std::pair(left.first.width(), left.first.height())
-            < std::pair(right.first.width(), right.first.height());
-    });
-    TarnisElementDimensionHandler handler(sizes);
+    QString problem;
+    TarnisElementDimensionHandler handler(
+        ResourceFormat::PublishedResources(resources.directory).displaySizes(problem));
+    if (!problem.isNull())
+        print("service error:", problem);
     const QPair<QSize, QString> nearest =
         handler.nearestNeighbourScreenSize(ResourceFormat::DisplaySize::fromName(names.at(0)));
     print("screen:", names.at(0));

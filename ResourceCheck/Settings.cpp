@@ -52,7 +52,7 @@ QString Settings::addContrastPair(const QString& value)
 
 QString Settings::addHandlerName(const QString& value)
 {
-    QStringList classes = QmlUses::galleryHandlers().values();
+    QStringList classes = QmlUses::defaultHandlers().values();
     classes.sort();
     const auto equalsSign = value.indexOf(QLatin1Char('='));
     if (equalsSign < 1 || !classes.contains(value.mid(equalsSign + 1))) {

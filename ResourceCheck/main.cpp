@@ -44,7 +44,7 @@ QVector<Finding> findFaults(const Options& options)
     Project project{Resources(options.directory), {}, settings.contrastPairs, settings.kept};
     if (!options.qmlDirectories.isEmpty()) {
         project.qml.emplace(options.qmlDirectories,
-                            settings.handlerNames.isEmpty() ? QmlUses::galleryHandlers() : settings.handlerNames);
+                            settings.handlerNames.isEmpty() ? QmlUses::defaultHandlers() : settings.handlerNames);
     }
     QVector<Finding> findings = check(project, settings.severities, [&timer](int done, int all) {
         constexpr int patience = 1000; // milliseconds

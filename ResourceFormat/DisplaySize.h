@@ -7,8 +7,8 @@
 namespace ResourceFormat::DisplaySize
 {
 
-/// The size in pixels that a name like `800x480` stands for. Both numbers are positive, decimal, without leading zeros
-/// and of at most nine digits; for any other name the size is invalid.
+/// The size in pixels that a name such as `800x480` describes. Both numbers are positive, decimal, without leading
+/// zeros and of at most nine digits; for any other name the size is invalid.
 QSize fromName(const QString& name);
 
 /// The name of a valid size in pixels.

@@ -5,7 +5,7 @@ set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
 . "$(dirname "$0")/lib/clang-tidy.sh"
 cd "$(dirname "$0")/.."
-./scripts/install-dependencies.sh --package
+./scripts/install-dependencies.sh --package ${1:+"$1"}
 ./scripts/build.sh release
 
 create_work_folder

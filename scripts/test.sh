@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 preset=${1:-dev}
 if [ "$preset" = --valgrind ]; then
   ./scripts/install-dependencies.sh --valgrind
-  ./scripts/build.sh valgrind tarnis-module
+  ./scripts/build.sh valgrind TarnisLibrary
   # All test programs except those of the tools and of the QML module: Qt Quick Test leaks its engine and its log.
   mapfile -t tests < <(ctest --test-dir build/valgrind -N -E '^(Gallery|ResourceCheck|Parity|QmlModule)' | grep -oP '^ *Test +#\d+: \K[A-Za-z]+Test$')
   ./scripts/build.sh valgrind "${tests[@]}"
@@ -21,6 +21,8 @@ if [ "$preset" = --valgrind ]; then
   done
   exit
 fi
-./scripts/install-dependencies.sh
+options=()
+[ "$preset" != ci ] || options=(--lint --benchmark) # clang, and what the benchmarks need
+./scripts/install-dependencies.sh "${options[@]}"
 ./scripts/build.sh "$preset"
 ctest --preset "$preset"

@@ -11,7 +11,7 @@ public:
     /// An error with this code and message.
     ErrorContainer(int code, const QString& message);
 
-    /// The code of every failure without a code of its own: -1.
+    /// The code of failures that have no specific code: -1.
     static int getDefaultErrorCode();
 
     /// The code of the error, or 0.

@@ -69,8 +69,8 @@ Catalog readCatalog(const QString& path)
 class TextManager::Private
 {
 public:
-    explicit Private(const QString& directoryPath)
-        : directory(directoryPath)
+    explicit Private(const QString& path)
+        : directoryPath(path)
     {
     }
 
@@ -86,7 +86,7 @@ public:
     {
         auto found = catalogs.find(fileName);
         if (found == catalogs.end())
-            found = catalogs.insert(fileName, readCatalog(directory.filePath(fileName)));
+            found = catalogs.insert(fileName, readCatalog(pathOf(fileName)));
         return *found;
     }
 
@@ -106,12 +106,18 @@ public:
     QString language;
 
 private:
+    // Empty without a directory: a relative path would start at the working directory.
+    QString pathOf(const QString& fileName) const
+    {
+        return directoryPath.isEmpty() ? QString() : QDir(directoryPath).filePath(fileName);
+    }
+
     struct Chain {
         QString language;
         QVector<Catalog> catalogs;
     };
 
-    const QDir directory;
+    const QString directoryPath;
     QHash<QString, Catalog> catalogs; // by file name
     Chain lastChain;                  // callers ask for many texts of one language
 };

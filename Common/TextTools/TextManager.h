@@ -14,7 +14,8 @@ class Q_DECL_EXPORT TextManager : public TextManagerBase
     Q_OBJECT
 
 public:
-    /// Reads the language and its fallbacks. `directory` is the one that contains the files.
+    /// Reads the language and its fallbacks. `directory` is the one that contains the files; an empty path contains
+    /// none.
     TextManager(const QString& directory, const QString& language, QObject* parent = nullptr);
     ~TextManager() override;
 

@@ -33,7 +33,7 @@ const QHash<QString, ResourceKind>& kindsByMeaning()
 
 } // namespace
 
-QHash<QString, QString> QmlUses::galleryHandlers()
+QHash<QString, QString> QmlUses::defaultHandlers()
 {
     return {
         {QStringLiteral("Ui.colors"), QStringLiteral("TarnisColorHandler")},

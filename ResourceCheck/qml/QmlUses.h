@@ -18,12 +18,12 @@ struct QmlFault {
 class QmlUses
 {
 public:
-    /// The classes of the handlers by the names under which the gallery publishes them.
-    static QHash<QString, QString> galleryHandlers();
+    /// The classes of the handlers by the names under which QmlHost publishes them.
+    static QHash<QString, QString> defaultHandlers();
 
     /// Reads all *.qml and *.js files below the directories. `handlers` gives the classes by the names under which the
     /// host publishes them: `Ui.colors` matches `Ui.colors` and every path that ends with `.Ui.colors`.
-    explicit QmlUses(const QStringList& directories, const QHash<QString, QString>& handlers = galleryHandlers());
+    explicit QmlUses(const QStringList& directories, const QHash<QString, QString>& handlers = defaultHandlers());
 
     const QVector<QmlUse>& uses() const { return useList; }
 
