@@ -29,7 +29,9 @@ sed -i "s/user=\"$user\"/user=\"daemon\"/" "$buses/system.d/Module.Tarnis.conf"
 chmod -R u=rwX,go=rX "$work"
 
 # Sets $command to the command that runs a program as a user for at most a minute: as USER PROGRAM [ARGUMENT...]
-as() { command=(timeout -k 20 60 setpriv --reuid="$1" --regid=nogroup --clear-groups "${@:2}"); }
+# --foreground, because timeout would also send SIGCONT, which can cancel the SIGSTOP that LeakSanitizer waits for at the
+# end of a program: it would then wait forever.
+as() { command=(timeout --foreground -k 20 60 setpriv --reuid="$1" --regid=nogroup --clear-groups "${@:2}"); }
 
 # Starts a program as a user and waits for the first line that it prints: start_as USER PROGRAM [ARGUMENT...]
 start_as() {
