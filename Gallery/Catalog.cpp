@@ -1,11 +1,10 @@
 #include "Gallery/Catalog.h"
 
 #include "Gallery/Entry.h"
-#include "Gallery/UiResources.h"
 #include "ResourceFormat/Contrast.h"
-#include "ResourceFormat/Directory.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
 
 #include <QColor>
 #include <QFontDatabase>
@@ -33,10 +32,10 @@ QVariantList matching(const QVariantList& entries, const QString& search)
 
 } // namespace
 
-Catalog::Catalog(const UiResources& uiResources)
-    : resources(uiResources)
+Catalog::Catalog(const TarnisUi& tarnisUi)
+    : ui(tarnisUi)
 {
-    connect(&resources, &UiResources::reloaded, this, &Catalog::update);
+    connect(&ui, &TarnisUi::answersChanged, this, &Catalog::update);
     update();
 }
 
@@ -57,7 +56,7 @@ QStringList Catalog::displays() const
 
 QStringList Catalog::languages() const
 {
-    return languageNames;
+    return answers.languages;
 }
 
 QVariantList Catalog::colors(const QString& search) const
@@ -87,15 +86,13 @@ QStringList Catalog::icons(const QString& search) const
 
 QStringList Catalog::texts(const QString& search) const
 {
-    const QList<QString> urls =
-        resources.textManager().getAvailableUrls(Language::fileName(Language::secondFallback()));
     QStringList matches;
-    for (const QString& url : urls) {
+    for (const QString& url : urls(Language::secondFallback())) {
         const auto matchesIn = [&](const QString& language) {
             return text(url, language).contains(search, Qt::CaseInsensitive);
         };
         if (url.contains(search, Qt::CaseInsensitive)
-            || std::any_of(languageNames.begin(), languageNames.end(), matchesIn))
+            || std::any_of(answers.languages.begin(), answers.languages.end(), matchesIn))
             matches.append(url);
     }
     return matches;
@@ -133,7 +130,7 @@ QString Catalog::effectiveContext(const QString& alias, const QString& context) 
 
 QString Catalog::text(const QString& url, const QString& language) const
 {
-    return resources.textManager().getText(url, language);
+    return textManager == nullptr ? QString() : textManager->getText(url, language);
 }
 
 bool Catalog::isTextMissing(const QString& url, const QString& language) const
@@ -142,32 +139,46 @@ bool Catalog::isTextMissing(const QString& url, const QString& language) const
     // The second fallback is part of every chain, but only its own variants are written in that language.
     if (QLocale(language).language() != QLocale(Language::secondFallback()).language())
         languages.removeAll(Language::secondFallback());
-    return std::none_of(languages.begin(), languages.end(), [&](const QString& name) {
-        return resources.textManager().getAvailableUrls(Language::fileName(name)).contains(url);
-    });
+    return std::none_of(languages.begin(), languages.end(),
+                        [&](const QString& name) { return urls(name).contains(url); });
+}
+
+QStringList Catalog::urls(const QString& language) const
+{
+    return textManager == nullptr ? QStringList() : textManager->getAvailableUrls(Language::fileName(language));
 }
 
 void Catalog::update()
 {
-    const ServiceAnswers& answers = resources.answers();
-    colorEntries = Entry::ofFile(answers.colorIniFilePath);
-    fontEntries = Entry::ofFile(answers.fontIniFilePath);
-    const auto isFamily = [](const QVariant& entry) {
-        return entry.value<Entry>().key == TarnisFontHandler::familyKey;
-    };
-    fontEntries.erase(std::remove_if(fontEntries.begin(), fontEntries.end(), isFamily), fontEntries.end());
-    updateDisplays(answers);
-    updateIcons(answers);
-    updateLanguages(answers);
+    const QmlHost::Answers old = std::exchange(answers, ui.answers());
+    if (answers.colorFile != old.colorFile)
+        colorEntries = Entry::ofFile(answers.colorFile.value);
+    if (answers.fontFile != old.fontFile)
+        updateFonts();
+    if (answers.displaySizes != old.displaySizes)
+        updateDisplays();
+    if (answers.icons != old.icons)
+        updateIcons();
+    if (answers.textFolder != old.textFolder)
+        textManager = std::make_unique<TextManager>(answers.textFolder.value, Language::secondFallback());
     ++currentRevision;
     Q_EMIT changed();
 }
 
-void Catalog::updateDisplays(const ServiceAnswers& answers)
+void Catalog::updateFonts()
+{
+    fontEntries = Entry::ofFile(answers.fontFile.value);
+    const auto isFamily = [](const QVariant& entry) {
+        return entry.value<Entry>().key == TarnisFontHandler::familyKey;
+    };
+    fontEntries.erase(std::remove_if(fontEntries.begin(), fontEntries.end(), isFamily), fontEntries.end());
+}
+
+void Catalog::updateDisplays()
 {
     displayNames.clear();
     dimensionsByDisplay.clear();
-    for (const auto& [size, path] : answers.displaySizes) {
+    for (const auto& [size, path] : qAsConst(answers.displaySizes.value)) {
         const QString display = DisplaySize::toName(size);
         displayNames.append(display);
         const QVariantList entries = Entry::ofFile(path);
@@ -178,23 +189,14 @@ void Catalog::updateDisplays(const ServiceAnswers& answers)
     }
 }
 
-void Catalog::updateIcons(const ServiceAnswers& answers)
+void Catalog::updateIcons()
 {
-    iconMap = resources.icons()->parseMappingTable(answers.iconMappingTable);
+    const auto& [folder, mappingTable] = answers.icons.value;
+    iconMap = TarnisIconHandler(folder, QStringLiteral("{}")).parseMappingTable(mappingTable);
     contextNames = QStringList(TarnisIconHandler::defaultContextPathKey);
     for (const TarnisIconHandler::ContextMap& contexts : qAsConst(iconMap))
         contextNames += contexts.keys();
     contextNames.removeDuplicates();
-}
-
-void Catalog::updateLanguages(const ServiceAnswers& answers)
-{
-    languageNames.clear();
-    if (answers.directory().isEmpty())
-        return;
-    const QFileInfoList files = Directory(answers.directory()).languageFiles();
-    for (const QFileInfo& file : files)
-        languageNames.append(Language::ofFile(file.fileName()));
 }
 
 } // namespace Gallery

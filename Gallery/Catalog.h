@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Common/TextTools/TextManager.h"
+#include "QmlHost/TarnisUi.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
 #include <QMap>
@@ -9,11 +11,10 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+#include <memory>
+
 namespace Gallery
 {
-
-struct ServiceAnswers;
-class UiResources;
 
 /// The names of all resources, and facts about their values that the handlers do not tell. The front end of a device
 /// knows its names and needs no such class. The QML singleton `Catalog` of the module `Tarnis`.
@@ -32,8 +33,8 @@ class Catalog : public QObject
     Q_PROPERTY(QStringList languages READ languages NOTIFY changed)
 
 public:
-    /// Follows the reloads of `uiResources`, which must outlive the catalog.
-    explicit Catalog(const UiResources& uiResources);
+    /// Follows the answers of `tarnisUi`, which must outlive the catalog.
+    explicit Catalog(const TarnisUi& tarnisUi);
 
     int revision() const;
     QStringList contexts() const;
@@ -70,11 +71,14 @@ Q_SIGNALS:
 
 private:
     void update();
-    void updateDisplays(const ServiceAnswers& answers);
-    void updateIcons(const ServiceAnswers& answers);
-    void updateLanguages(const ServiceAnswers& answers);
+    void updateFonts();
+    void updateDisplays();
+    void updateIcons();
+    QStringList urls(const QString& language) const;
 
-    const UiResources& resources;
+    const TarnisUi& ui;
+    QmlHost::Answers answers;                  // that the lists are read from
+    std::unique_ptr<TextManager> textManager; // null without texts
     int currentRevision = 0;
     QVariantList colorEntries;
     QVariantList fontEntries;
@@ -82,7 +86,6 @@ private:
     TarnisIconHandler::IconMap iconMap;
     QStringList contextNames;
     QStringList displayNames;
-    QStringList languageNames;
 };
 
 } // namespace Gallery

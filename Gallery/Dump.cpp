@@ -2,10 +2,11 @@
 
 #include "Gallery/Catalog.h"
 #include "Gallery/Entry.h"
-#include "Gallery/UiResources.h"
+#include "QmlHost/Ui.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QtQml>
 
 namespace Gallery
 {
@@ -22,34 +23,36 @@ void insertBelow(QJsonObject& object, const QString& name, const QString& subnam
 
 } // namespace
 
-QByteArray dump(const UiResources& resources, const Catalog& catalog)
+QByteArray dump(const Catalog& catalog)
 {
+    QQmlEngine engine;
+    auto* ui = engine.singletonInstance<QmlHost::Ui*>(qmlTypeId("Tarnis", 1, 0, "Ui"));
     QJsonObject colors;
     for (const QVariant& variant : catalog.colors(QString())) {
         const auto entry = variant.value<Entry>();
-        insertBelow(colors, entry.group, entry.key, resources.colors()->getColor(entry.group, entry.key));
+        insertBelow(colors, entry.group, entry.key, ui->colors()->getColor(entry.group, entry.key));
     }
     QJsonObject families;
     QJsonObject sizes;
     for (const QVariant& variant : catalog.fonts(QString())) {
         const auto entry = variant.value<Entry>();
         if (!families.contains(entry.group))
-            families.insert(entry.group, resources.fonts()->getFontFamily(entry.group));
-        insertBelow(sizes, entry.group, entry.key, resources.fonts()->getFontPointSize(entry.group, entry.key));
+            families.insert(entry.group, ui->fonts()->getFontFamily(entry.group));
+        insertBelow(sizes, entry.group, entry.key, ui->fonts()->getFontPointSize(entry.group, entry.key));
     }
     QJsonObject icons;
     const QStringList contexts = catalog.contexts();
     for (const QString& alias : catalog.icons(QString())) {
         for (const QString& context : contexts)
-            insertBelow(icons, alias, context, resources.icons()->getIconPathAsFileUrl(alias, context));
+            insertBelow(icons, alias, context, ui->icons()->getIconPathAsFileUrl(alias, context));
     }
     const QJsonObject answers{
         {QStringLiteral("colors"), colors},
         {QStringLiteral("fontFamilies"), families},
         {QStringLiteral("fontPointSizes"), sizes},
-        {QStringLiteral("dimensions"), QJsonObject::fromVariantMap(resources.dimensions()->uiElementDimensions())},
+        {QStringLiteral("dimensions"), QJsonObject::fromVariantMap(ui->dimensions()->uiElementDimensions())},
         {QStringLiteral("icons"), icons},
-        {QStringLiteral("texts"), QJsonObject::fromVariantMap(resources.texts()->translatedTexts())},
+        {QStringLiteral("texts"), QJsonObject::fromVariantMap(ui->texts()->translatedTexts())},
     };
     return QJsonDocument(answers).toJson();
 }

@@ -6,9 +6,8 @@ namespace Gallery
 {
 
 class Catalog;
-class UiResources;
 
-/// Every lookup of the pages with its answer, as indented JSON.
-QByteArray dump(const UiResources& resources, const Catalog& catalog);
+/// Every lookup of the pages with its answer, as indented JSON. TarnisUi must be published.
+QByteArray dump(const Catalog& catalog);
 
 } // namespace Gallery

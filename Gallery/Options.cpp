@@ -17,9 +17,12 @@ struct Parser : QCommandLineParser {
     Parser()
     {
         setApplicationDescription(QStringLiteral(
-            "Shows the resources that the service Module.Tarnis on the system bus gives to a device's front end, and "
-            "follows the changes of their files.\n\n"
-            "Exit status: 0 success; 1 the service, the display or a lookup failed; 2 wrong usage."));
+            "Shows the resources of a device's front end and follows the changes of their files. They are those of "
+            "the directory DIR or, without DIR, those that the service Module.Tarnis on the system bus provides.\n\n"
+            "Exit status: 0 success; 1 the resources, the display or a lookup failed; 2 wrong usage."));
+        addPositionalArgument(QStringLiteral("DIR"),
+                              QStringLiteral("Resource directory to show. It needs no bus and no service."),
+                              QStringLiteral("[DIR]"));
         addOptions({language, context, display, page, screenshot, screenshotAll, dump});
     }
 
@@ -51,7 +54,7 @@ struct Parser : QCommandLineParser {
 
 QString unknown(const char* what, const QString& value, const QStringList& known)
 {
-    // Nothing is known if the service cannot be reached, which is reported elsewhere.
+    // Nothing is known without an answer, which is reported elsewhere.
     if (known.isEmpty() || known.contains(value))
         return QString();
     return QStringLiteral("unknown %1 \"%2\"; use one of: %3")
@@ -80,8 +83,10 @@ QString Options::parse(int argc, char* argv[])
         parser.showHelp();
     if (parser.isSet(parser.version))
         parser.showVersion();
-    if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
+    const QStringList directories = parser.positionalArguments();
+    if (directories.size() > 1)
+        return QStringLiteral("unexpected argument \"%1\"; name one directory").arg(directories.at(1));
+    directory = directories.value(0);
     language = parser.value(parser.language);
     context = parser.value(parser.context);
     display = parser.value(parser.display);
@@ -104,6 +109,11 @@ QString Options::check(const Session& session) const
             return message;
     }
     return QString();
+}
+
+bool Options::isInteractive() const
+{
+    return !isDump && screenshot.isEmpty() && screenshotDirectory.isEmpty();
 }
 
 } // namespace Gallery

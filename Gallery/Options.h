@@ -19,6 +19,10 @@ struct Options {
     /// Returns which value is not known in the session, and the known ones; a null string if all are known.
     QString check(const Session& session) const;
 
+    /// Whether to show a window until the user closes it.
+    bool isInteractive() const;
+
+    QString directory; ///< Empty for the service.
     QString language;
     QString context;
     QString display;

@@ -1,7 +1,6 @@
 #include "Gallery/Screenshots.h"
 
-#include "Gallery/Catalog.h"
-#include "Gallery/View.h"
+#include "Gallery/Session.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -29,9 +28,9 @@ void showProgress(int done, int all)
 
 } // namespace
 
-Screenshots::Screenshots(QQuickWindow& quickWindow, View& galleryView)
+Screenshots::Screenshots(QQuickWindow& quickWindow, Session& gallerySession)
     : window(quickWindow)
-    , view(galleryView)
+    , session(gallerySession)
 {
 }
 
@@ -47,17 +46,18 @@ bool Screenshots::take(const QString& path)
     return window.isExposed() && window.grabWindow().save(path);
 }
 
-bool Screenshots::takeAll(const QString& directory, const Catalog& catalog)
+bool Screenshots::takeAll(const QString& directory)
 {
-    const QStringList displays = catalog.displays();
-    const QStringList languages = catalog.languages();
+    View& view = session.view;
+    const QStringList displays = session.catalog.displays();
+    const QStringList languages = session.catalog.languages();
     QDir().mkpath(directory);
     const int all = view.pages().size() * displays.size() * languages.size();
     int done = 0;
     for (const QString& display : displays) {
         view.setDisplay(display);
         for (const QString& language : languages) {
-            view.setLanguage(language);
+            session.ui.setLanguage(language);
             for (const QString& page : view.pages()) {
                 view.setPage(page);
                 const QString name = QStringLiteral("%1-%2-%3.png").arg(page, display, language);

@@ -1,20 +1,35 @@
 #include "Gallery/Session.h"
 
+#include "Gallery/LastGoodSource.h"
+
+#include <QEventLoop>
+#include <QTimer>
 #include <QtQml>
 
 namespace Gallery
 {
 
-Session::Session(const QString& language)
-    : resources(language)
-    , catalog(resources)
-    , view(resources, log)
+Session::Session(std::unique_ptr<QmlHost::Source> source)
+    : ui(std::make_unique<LastGoodSource>(std::move(source)))
+    , catalog(ui)
+    , view(ui)
 {
+}
+
+void Session::waitForSource(int milliseconds)
+{
+    if (ui.isReady() || !ui.problem().isEmpty())
+        return;
+    QEventLoop loop;
+    QObject::connect(&ui, &TarnisUi::readyChanged, &loop, &QEventLoop::quit);
+    QObject::connect(&ui, &TarnisUi::problemChanged, &loop, &QEventLoop::quit);
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 void Session::publish()
 {
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Ui", &resources);
+    ui.publish();
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Catalog", &catalog);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "View", &view);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);

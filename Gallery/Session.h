@@ -2,22 +2,27 @@
 
 #include "Gallery/Catalog.h"
 #include "Gallery/MessageLog.h"
-#include "Gallery/UiResources.h"
 #include "Gallery/View.h"
+#include "QmlHost/TarnisUi.h"
+
+#include <memory>
 
 namespace Gallery
 {
 
 /// The QML singletons of the module `Tarnis`. Only one session may exist at a time.
 struct Session {
-    /// Asks the service; see ServiceAnswers::ask().
-    explicit Session(const QString& language);
+    /// Starts to ask the source.
+    explicit Session(std::unique_ptr<QmlHost::Source> source);
 
-    /// Makes the singletons known to every QML engine of the process. The session must outlive the engines.
+    /// Waits for the first answer or the first problem, but not longer than this.
+    void waitForSource(int milliseconds);
+
+    /// Makes the singletons known to the QML engine that is created next. The session must outlive the engine.
     void publish();
 
     MessageLog log;
-    UiResources resources;
+    TarnisUi ui;
     Catalog catalog;
     View view;
 };

@@ -1,7 +1,7 @@
 #include "Gallery/View.h"
 
-#include "Gallery/MessageLog.h"
 #include "ResourceFormat/DisplaySize.h"
+#include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -9,25 +9,12 @@
 namespace Gallery
 {
 
-namespace
-{
-
-constexpr int quietMilliseconds = 150; // after the last of several changes
-
-} // namespace
-
-View::View(UiResources& uiResources, MessageLog& messageLog)
-    : resources(uiResources)
-    , log(messageLog)
+View::View(TarnisUi& tarnisUi)
+    : ui(tarnisUi)
     , pageName(pages().constFirst())
     , contextName(TarnisIconHandler::defaultContextPathKey)
 {
-    judge(resources.answers(), log.takeNew());
-    watcher.watch(resources.answers().directory());
-    quietPeriod.setSingleShot(true);
-    quietPeriod.setInterval(quietMilliseconds);
-    connect(&watcher, &DirectoryWatcher::changed, &quietPeriod, qOverload<>(&QTimer::start));
-    connect(&quietPeriod, &QTimer::timeout, this, &View::reload);
+    connect(&ui, &TarnisUi::displaySizeChanged, this, &View::changed);
 }
 
 QStringList View::pages() const
@@ -65,16 +52,16 @@ void View::setContext(const QString& name)
     Q_EMIT changed();
 }
 
-QString View::language() const
+QString View::search() const
 {
-    return resources.textManager().getLanguageName();
+    return searches.value(pageName);
 }
 
-void View::setLanguage(const QString& name)
+void View::setSearch(const QString& text)
 {
-    if (name == language())
+    if (text == search())
         return;
-    resources.setLanguage(name);
+    searches.insert(pageName, text);
     Q_EMIT changed();
 }
 
@@ -85,51 +72,23 @@ QString View::display() const
 
 void View::setDisplay(const QString& name)
 {
-    if (name == display())
-        return;
-    resources.setDisplaySize(ResourceFormat::DisplaySize::fromName(name));
-    Q_EMIT changed();
+    ui.setDisplaySize(ResourceFormat::DisplaySize::fromName(name));
 }
 
 QSize View::displaySize() const
 {
-    return resources.displaySize();
-}
-
-QString View::problem() const
-{
-    return problemText;
+    return ui.displaySize();
 }
 
 void View::reload()
 {
-    log.takeNew();
-    const QString watched = resources.answers().directory();
-    resources.reload([this](const ServiceAnswers& answers) {
-        judge(answers, log.takeNew());
-        return problemText.isEmpty() || !hasGoodView;
-    });
-    // There may be new directories.
-    const QString directory = resources.answers().directory();
-    watcher.watch(directory.isEmpty() ? watched : directory);
-    Q_EMIT changed();
+    ui.askAgain();
 }
 
 void View::copy(const QString& text)
 {
     QGuiApplication::clipboard()->setText(text);
     Q_EMIT copied(text);
-}
-
-void View::judge(const ServiceAnswers& answers, const QStringList& faults)
-{
-    problemText = answers.isReached ? faults.join(QLatin1Char('\n'))
-                                    : QStringLiteral("The service Module.Tarnis cannot be reached on the system bus. "
-                                                     "Start tarnis-module, then retry.");
-    if (problemText.isEmpty())
-        hasGoodView = true;
-    else
-        Q_EMIT problemFound();
 }
 
 } // namespace Gallery

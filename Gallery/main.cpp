@@ -16,6 +16,9 @@ namespace
 
 enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2 };
 
+constexpr int firstFrameMilliseconds = 400; // for a first frame with resources; a window without them opens after it
+constexpr int answerMilliseconds = 10000;   // longer than a call to the service may last
+
 int fail(ExitStatus status, const QString& message)
 {
     std::fprintf(stderr, "tarnis-gallery: %s\n", qPrintable(message));
@@ -34,9 +37,10 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
 
 int takePictures(QQuickWindow& window, Session& session, const Options& options)
 {
-    Screenshots screenshots(window, session.view);
+    session.log.takeNew();
+    Screenshots screenshots(window, session);
     const bool isTaken = options.screenshot.isEmpty()
-        ? screenshots.takeAll(options.screenshotDirectory, session.catalog)
+        ? screenshots.takeAll(options.screenshotDirectory)
         : screenshots.take(options.screenshot);
     if (!isTaken) {
         return fail(Failure,
@@ -45,40 +49,53 @@ int takePictures(QQuickWindow& window, Session& session, const Options& options)
     const QStringList failedLookups = session.log.takeNew();
     if (!failedLookups.isEmpty())
         return fail(Failure, QStringLiteral("lookups failed:\n") + failedLookups.join(QLatin1Char('\n')));
-    return session.view.problem().isEmpty() ? Success : Failure;
+    return session.ui.problem().isEmpty() ? Success : Failure;
 }
 
 int show(Session& session, const Options& options)
 {
-    session.publish();
-    QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
+    const QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return fail(Failure, QStringLiteral("the window could not be built"));
-    if (options.screenshot.isEmpty() && options.screenshotDirectory.isEmpty())
+    if (options.isInteractive())
         return QGuiApplication::exec();
     return takePictures(*qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst()), session, options);
 }
 
+void apply(const Options& options, Session& session)
+{
+    session.ui.setLanguage(options.language);
+    session.view.setDisplay(options.display);
+    session.view.setPage(options.page);
+    session.view.setContext(options.context);
+}
+
 int run(const Options& options)
 {
-    Session session(options.language);
-    const QString unknownValue = options.check(session);
-    if (!unknownValue.isEmpty())
-        return fail(WrongUsage, unknownValue);
-    View& view = session.view;
-    view.setDisplay(options.display);
-    view.setPage(options.page);
-    view.setContext(options.context);
-    const auto reportProblem = [&view] {
-        if (!view.problem().isEmpty())
-            fail(Failure, view.problem());
+    Session session(options.directory.isEmpty() ? TarnisUi::service(TarnisUi::Files::Followed)
+                                                : TarnisUi::directory(options.directory));
+    apply(options, session);
+    const auto reportProblem = [&session] {
+        if (!session.ui.problem().isEmpty())
+            fail(Failure, session.ui.problem());
     };
-    QObject::connect(&view, &View::problemFound, reportProblem);
-    reportProblem();
+    QObject::connect(&session.ui, &TarnisUi::problemChanged, reportProblem);
+    session.waitForSource(options.isInteractive() ? firstFrameMilliseconds : answerMilliseconds);
+    const auto findUnknownValue = [&options, &session] {
+        const QString unknownValue = options.check(session);
+        return unknownValue.isNull() ? Success : static_cast<ExitStatus>(fail(WrongUsage, unknownValue));
+    };
+    if (findUnknownValue() != Success)
+        return WrongUsage;
+    QObject::connect(&session.ui, &TarnisUi::readyChanged, &session.view, [&findUnknownValue] {
+        if (findUnknownValue() != Success)
+            QGuiApplication::exit(WrongUsage);
+    });
+    session.publish();
     if (!options.isDump)
         return show(session, options);
-    std::fputs(dump(session.resources, session.catalog).constData(), stdout);
-    return view.problem().isEmpty() ? Success : Failure;
+    std::fputs(dump(session.catalog).constData(), stdout);
+    return session.ui.problem().isEmpty() ? Success : Failure;
 }
 
 } // namespace

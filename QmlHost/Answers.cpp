@@ -4,6 +4,8 @@
 #include "ResourceFormat/Directory.h"
 #include "ResourceFormat/Language.h"
 
+#include <QDirIterator>
+
 namespace
 {
 
@@ -12,6 +14,16 @@ void complete(QmlHost::Answers::Part<Value>& part, const QmlHost::Answers::Part<
 {
     if (!part.isAnswered())
         part = earlier;
+}
+
+QStringList filesBelow(const QString& folder)
+{
+    QStringList files;
+    QDirIterator iterator(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (iterator.hasNext())
+        files.append(iterator.next());
+    files.sort();
+    return files;
 }
 
 } // namespace
@@ -40,10 +52,10 @@ void Answers::setDisplaySizes(const QList<QPair<QSize, QString>>& sizes)
         displaySizes = {sizes, Fingerprint::of(files)};
 }
 
-void Answers::setIcons(const QString& folder, const QString& mappingTable, const QStringList& files)
+void Answers::setIcons(const QString& folder, const QString& mappingTable, bool includesFiles)
 {
     if (!folder.isEmpty() && !mappingTable.isEmpty())
-        icons = {{folder, mappingTable}, Fingerprint::of(files)};
+        icons = {{folder, mappingTable}, Fingerprint::of(includesFiles ? filesBelow(folder) : QStringList())};
 }
 
 void Answers::setTexts(const QString& resourceDirectory)

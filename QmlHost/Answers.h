@@ -47,8 +47,8 @@ struct Answers {
     /// As setColorFile().
     void setDisplaySizes(const QList<QPair<QSize, QString>>& sizes);
 
-    /// As setColorFile(). `files` are the icons whose changes matter.
-    void setIcons(const QString& folder, const QString& mappingTable, const QStringList& files = {});
+    /// As setColorFile(). `includesFiles` tells whether changes of the icon files matter.
+    void setIcons(const QString& folder, const QString& mappingTable, bool includesFiles);
 
     /// Answers with the texts of the resource directory, if it has any.
     void setTexts(const QString& resourceDirectory);

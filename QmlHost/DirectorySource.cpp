@@ -2,34 +2,10 @@
 
 #include "ResourceFormat/PublishedResources.h"
 
-#include <QDirIterator>
+#include <QDir>
 
 namespace
 {
-
-QStringList entriesBelow(const QString& folder, QDir::Filters kinds)
-{
-    QStringList entries;
-    QDirIterator iterator(folder, kinds | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
-    while (iterator.hasNext())
-        entries.append(iterator.next());
-    entries.sort();
-    return entries;
-}
-
-void watchAll(const ResourceFormat::Directory& directory, QmlHost::DirectoryWatcher& watcher)
-{
-    watcher.clear();
-    QStringList files{directory.colorFile(), directory.fontFile(), directory.mappingTable()};
-    for (const QFileInfo& file : directory.dimensionFiles() + directory.languageFiles())
-        files.append(file.filePath());
-    for (const QString& file : files)
-        watcher.watchPath(file);
-    const QString iconFolder = directory.iconFolder();
-    const QStringList folders{directory.path(), directory.dimensionFolder(), directory.textFolder(), iconFolder};
-    for (const QString& folder : folders + entriesBelow(iconFolder, QDir::Dirs))
-        watcher.watchEntries(folder);
-}
 
 QString readAll(const ResourceFormat::Directory& directory, QmlHost::Answers& answers)
 {
@@ -40,7 +16,7 @@ QString readAll(const ResourceFormat::Directory& directory, QmlHost::Answers& an
     answers.setDisplaySizes(resources.displaySizes(problems[2]));
     const QString iconFolder = resources.iconFolder(problems[3]);
     const QString mappingTable = resources.mappingTable(QString(), problems[4]);
-    answers.setIcons(iconFolder, mappingTable, entriesBelow(iconFolder, QDir::Files));
+    answers.setIcons(iconFolder, mappingTable, true);
     answers.setTexts(directory.path());
     QStringList found;
     for (const QString& problem : problems) {
@@ -74,7 +50,7 @@ void DirectorySource::ask()
     if (isStopRequested())
         return;
     const ResourceFormat::Directory directory(path);
-    watchAll(directory, watcher); // before the reading, so that no change in between is missed
+    watcher.watchResources(directory); // before the reading, so that no change in between is missed
     Answers answers;
     QString problem = QDir(path).exists() ? readAll(directory, answers) : path + QStringLiteral(" is not a directory");
     if (problem.isEmpty() && !watcher.problem().isEmpty())

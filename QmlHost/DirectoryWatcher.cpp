@@ -1,6 +1,6 @@
 #include "QmlHost/DirectoryWatcher.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSocketNotifier>
@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr int delayMilliseconds = 100;
+const QByteArray everyEntry;
 constexpr int mostLinks = 40; // as many as the kernel follows
 
 } // namespace
@@ -35,6 +36,24 @@ DirectoryWatcher::~DirectoryWatcher()
     notifier.reset();
     if (descriptor >= 0)
         ::close(descriptor);
+}
+
+void DirectoryWatcher::watchResources(const ResourceFormat::Directory& directory)
+{
+    clear();
+    QStringList files{directory.colorFile(), directory.fontFile(), directory.mappingTable()};
+    for (const QFileInfo& file : directory.dimensionFiles() + directory.languageFiles())
+        files.append(file.filePath());
+    for (const QString& file : qAsConst(files))
+        watchPath(file);
+    const QString iconFolder = directory.iconFolder();
+    QStringList folders{directory.path(), directory.dimensionFolder(), directory.textFolder(), iconFolder};
+    constexpr auto kinds = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden;
+    QDirIterator iconFolders(iconFolder, kinds, QDirIterator::Subdirectories);
+    while (iconFolders.hasNext())
+        folders.append(iconFolders.next());
+    for (const QString& folder : qAsConst(folders))
+        watch(folder, everyEntry);
 }
 
 void DirectoryWatcher::clear()
@@ -70,11 +89,6 @@ void DirectoryWatcher::watchPath(const QString& path)
     }
 }
 
-void DirectoryWatcher::watchEntries(const QString& directory)
-{
-    watch(directory, QByteArray());
-}
-
 QString DirectoryWatcher::problem() const
 {
     return reason;
@@ -103,7 +117,7 @@ void DirectoryWatcher::readEvents()
             const QSet<QByteArray> wanted = names.value(event->wd);
             const QByteArray name = event->len > 0 ? QByteArray(event->name) : QByteArray();
             const bool isOverflow = (event->mask & IN_Q_OVERFLOW) != 0;
-            if ((isOverflow || wanted.contains(name) || wanted.contains(QByteArray())) && !delay.isActive())
+            if ((isOverflow || wanted.contains(name) || wanted.contains(everyEntry)) && !delay.isActive())
                 delay.start();
         }
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ResourceFormat/Directory.h"
+
 #include <QHash>
 #include <QObject>
 #include <QSet>
@@ -23,14 +25,9 @@ public:
     explicit DirectoryWatcher(QObject* parent);
     ~DirectoryWatcher() override;
 
-    /// Forgets what was watched before. Call it first, on the thread that watches.
-    void clear();
-
-    /// Watches what the path leads to: each directory and each symbolic link on the way, whether or not it exists.
-    void watchPath(const QString& path);
-
-    /// Watches every entry of the directory.
-    void watchEntries(const QString& directory);
+    /// Watches the files of this directory, whether or not it exists, instead of those that it watched before: each
+    /// directory and each symbolic link on the way to them. Call it on the thread that watches.
+    void watchResources(const ResourceFormat::Directory& directory);
 
     /// Why changes are not noticed; null if they are.
     QString problem() const;
@@ -40,6 +37,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void clear();
+    void watchPath(const QString& path);
     void watch(const QString& directory, const QByteArray& name);
     void readEvents();
 

@@ -34,6 +34,28 @@ const Answers& Resources::answers() const
     return lastAnswers;
 }
 
+QList<QPair<QSize, QString>> Resources::usedDisplaySizes() const
+{
+    for (const auto& displaySize : lastAnswers.displaySizes.value) {
+        if (displaySize.first == onlySize)
+            return {displaySize};
+    }
+    return lastAnswers.displaySizes.value;
+}
+
+QSize Resources::onlyDisplaySize() const
+{
+    return onlySize;
+}
+
+void Resources::setOnlyDisplaySize(const QSize& size)
+{
+    if (size == onlySize)
+        return;
+    onlySize = size;
+    Q_EMIT onlyDisplaySizeChanged();
+}
+
 bool Resources::isReady() const
 {
     return lastAnswers.isAnyAnswered();
@@ -80,8 +102,10 @@ void Resources::take(const Answers& fresh, const QString& freshProblem)
     lastAnswers = fresh;
     lastAnswers.complete(oldAnswers);
     // Everything is up to date before the first signal.
-    if (!(lastAnswers == oldAnswers))
+    if (!(lastAnswers == oldAnswers)) {
         Q_EMIT answersChanged();
+        Q_EMIT answersTaken();
+    }
     if (languages() != oldLanguages)
         Q_EMIT languagesChanged();
     if (lastProblem != oldProblem)

@@ -27,6 +27,12 @@ public:
     /// The last answer to each question.
     const Answers& answers() const;
 
+    /// The display sizes that the dimensions are taken from: the only one, if it is supported, otherwise all.
+    QList<QPair<QSize, QString>> usedDisplaySizes() const;
+
+    QSize onlyDisplaySize() const;
+    void setOnlyDisplaySize(const QSize& size);
+
     /// Whether any question has been answered.
     bool isReady() const;
 
@@ -45,7 +51,13 @@ Q_SIGNALS:
     /// Emit it to let the source ask again.
     void askRequested();
 
+    /// Every Ui takes the answers and releases its outdated handlers.
     void answersChanged();
+
+    /// No Ui has outdated handlers any more: the host, then each Ui tells others of the change.
+    void answersTaken();
+
+    void onlyDisplaySizeChanged();
     void readyChanged();
     void problemChanged();
     void languageChanged();
@@ -58,6 +70,7 @@ private:
     Answers lastAnswers;
     QString lastProblem;
     QString languageName;
+    QSize onlySize;
     Source* const source; // lives on the thread and is deleted at its end
     QThread thread;
 };

@@ -48,15 +48,18 @@ public:
         }
     }
 
-    QmlHost::Answers answers() const
+    // Where the files are; empty if there is no answer.
+    QString directory() const { return colorFile.isEmpty() ? QString() : QFileInfo(colorFile).path(); }
+
+    QmlHost::Answers answers(bool includesIconFiles) const
     {
         QmlHost::Answers answers;
         answers.setColorFile(colorFile);
         answers.setFontFile(fontFile);
         answers.setDisplaySizes(displaySizes);
-        answers.setIcons(iconFolder, mappingTable);
+        answers.setIcons(iconFolder, mappingTable, includesIconFiles);
         if (!colorFile.isEmpty())
-            answers.setTexts(QFileInfo(colorFile).path());
+            answers.setTexts(directory());
         return answers;
     }
 
@@ -98,9 +101,12 @@ private:
 namespace QmlHost
 {
 
-ServiceSource::ServiceSource()
-    : repetition(this) // as a child it moves to the worker thread
+ServiceSource::ServiceSource(bool followsFiles)
+    : areFilesFollowed(followsFiles)
+    , watcher(this) // as children they move to the worker thread
+    , repetition(this)
 {
+    connect(&watcher, &DirectoryWatcher::changed, this, &ServiceSource::ask);
     repetition.setSingleShot(true);
     connect(&repetition, &QTimer::timeout, this, &ServiceSource::ask);
 }
@@ -113,8 +119,8 @@ void ServiceSource::start()
     busFailure = bus.isConnected()
         ? QStringLiteral("The connection to the D-Bus is lost")
         : QStringLiteral("There is no connection to the D-Bus (%1)").arg(bus.lastError().message());
-    const auto* watcher = new QDBusServiceWatcher(busName(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ServiceSource::onOwnerChanged);
+    const auto* ownerWatcher = new QDBusServiceWatcher(busName(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(ownerWatcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ServiceSource::onOwnerChanged);
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
                 QStringLiteral("Disconnected"), this, SLOT(reportBusFailure()));
     ask();
@@ -128,6 +134,7 @@ void ServiceSource::ask()
         reportBusFailure();
         return;
     }
+    watch(watchedDirectory); // before the reading, so that no change in between is missed
     Interview interview;
     interview.run(&Source::isStopRequested);
     if (isStopRequested())
@@ -140,7 +147,18 @@ void ServiceSource::ask()
         repetition.start(nextInterval);
         nextInterval = qMin(2 * nextInterval, longestInterval);
     }
-    Q_EMIT answered(interview.answers(), problem);
+    const QString directory = interview.directory();
+    if (!directory.isEmpty() && directory != watchedDirectory)
+        watch(directory);
+    Q_EMIT answered(interview.answers(areFilesFollowed), problem);
+}
+
+void ServiceSource::watch(const QString& directory)
+{
+    if (!areFilesFollowed || directory.isEmpty())
+        return;
+    watchedDirectory = directory;
+    watcher.watchResources(ResourceFormat::Directory(directory));
 }
 
 void ServiceSource::onOwnerChanged(const QString& /*name*/, const QString& /*oldOwner*/, const QString& newOwner)

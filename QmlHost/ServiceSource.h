@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QmlHost/DirectoryWatcher.h"
 #include "QmlHost/Source.h"
 
 #include <QTimer>
@@ -14,7 +15,8 @@ class ServiceSource : public Source
     Q_OBJECT
 
 public:
-    ServiceSource();
+    /// With `followsFiles`, it also asks when a file of the resource directory changes.
+    explicit ServiceSource(bool followsFiles);
     ~ServiceSource() override;
 
     void start() override;
@@ -26,6 +28,11 @@ private:
 
     static constexpr int firstInterval = 500; // milliseconds
 
+    void watch(const QString& directory);
+
+    const bool areFilesFollowed;
+    QString watchedDirectory;
+    DirectoryWatcher watcher;
     QString busFailure; // what to report when the bus is not connected
     QTimer repetition;
     int nextInterval = firstInterval;

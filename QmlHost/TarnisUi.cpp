@@ -32,6 +32,8 @@ TarnisUi::TarnisUi(std::unique_ptr<QmlHost::Source> source, TextManager* textMan
     : resources(std::make_unique<Resources>(std::move(source), textManager))
 {
     connect(resources.get(), &Resources::readyChanged, this, &TarnisUi::readyChanged);
+    connect(resources.get(), &Resources::answersTaken, this, &TarnisUi::answersChanged);
+    connect(resources.get(), &Resources::onlyDisplaySizeChanged, this, &TarnisUi::displaySizeChanged);
     connect(resources.get(), &Resources::problemChanged, this, &TarnisUi::problemChanged);
     connect(resources.get(), &Resources::languageChanged, this, &TarnisUi::languageChanged);
     connect(resources.get(), &Resources::languagesChanged, this, &TarnisUi::languagesChanged);
@@ -39,9 +41,9 @@ TarnisUi::TarnisUi(std::unique_ptr<QmlHost::Source> source, TextManager* textMan
 
 TarnisUi::~TarnisUi() = default;
 
-std::unique_ptr<QmlHost::Source> TarnisUi::service()
+std::unique_ptr<QmlHost::Source> TarnisUi::service(Files files)
 {
-    return std::make_unique<QmlHost::ServiceSource>();
+    return std::make_unique<QmlHost::ServiceSource>(files == Files::Followed);
 }
 
 std::unique_ptr<QmlHost::Source> TarnisUi::directory(const QString& path)
@@ -71,6 +73,21 @@ bool TarnisUi::waitUntilReady(int milliseconds)
 bool TarnisUi::isReady() const
 {
     return resources->isReady();
+}
+
+const QmlHost::Answers& TarnisUi::answers() const
+{
+    return resources->answers();
+}
+
+QSize TarnisUi::displaySize() const
+{
+    return resources->onlyDisplaySize();
+}
+
+void TarnisUi::setDisplaySize(const QSize& size)
+{
+    resources->setOnlyDisplaySize(size);
 }
 
 QString TarnisUi::problem() const

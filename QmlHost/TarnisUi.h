@@ -4,6 +4,7 @@
 #include "QmlHost/Source.h"
 
 #include <QObject>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -30,19 +31,23 @@ class TarnisUi : public QObject
     Q_OBJECT
 
 public:
+    /// Whether a source follows the changes of files.
+    enum class Files { Ignored, Followed };
+
+    /// The Tarnis module on the system bus, whenever it is there: it is asked when it appears, restarts or changes its
+    /// owner. A failed question is repeated after 0.5 s, and then at intervals that double up to 30 s. If
+    /// the files are followed, it is also asked when one of them changes; a device does not need that.
+    static std::unique_ptr<QmlHost::Source> service(Files files = Files::Ignored);
+
+    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed.
+    static std::unique_ptr<QmlHost::Source> directory(const QString& path);
+
     /// Starts to ask. The texts come from the directory `texts` beside the color file, or from `textManager`, which the
     /// caller keeps and which must outlive this object and the QML engines.
     explicit TarnisUi(std::unique_ptr<QmlHost::Source> source = service(), TextManager* textManager = nullptr);
 
     /// Waits for the question in progress, if there is one: 5 s at most if the service hangs. Asks no further one.
     ~TarnisUi() override;
-
-    /// The Tarnis module on the system bus, whenever it is there: it is asked when it appears, restarts or changes its
-    /// owner. A failed question is repeated after 0.5 s, and then at intervals that double up to 30 s.
-    static std::unique_ptr<QmlHost::Source> service();
-
-    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed.
-    static std::unique_ptr<QmlHost::Source> directory(const QString& path);
 
     /// Serves every QML engine of the process that asks for `Ui` from now on. Each gets its own `Ui` and handlers.
     /// The object that was published last serves; engines that have got their `Ui` keep it.
@@ -54,6 +59,16 @@ public:
 
     /// Whether there has been an answer, also an incomplete one. Until then lookups of QML are empty and log nothing.
     bool isReady() const;
+
+    /// What the handlers are built from. For hosts that show more than QML can look up, such as all names.
+    const QmlHost::Answers& answers() const;
+
+    /// The only display size that the dimensions are taken from; invalid, as initially, for the one that is nearest to
+    /// the screen. It has no effect while it is not supported.
+    QSize displaySize() const;
+
+    /// Changes the display size of all engines.
+    void setDisplaySize(const QSize& size);
 
     /// One sentence on why the last question was not answered completely; empty if it was. What was there stays.
     QString problem() const;
@@ -73,6 +88,13 @@ public:
 Q_SIGNALS:
     /// isReady() has become true.
     void readyChanged();
+
+    /// answers() has changed. The lookups of QML already use the new ones, but their signals come later. Hosts can
+    /// replace lists of names first, so that QML does not look up names that are gone.
+    void answersChanged();
+
+    /// displaySize() has changed.
+    void displaySizeChanged();
 
     /// problem() has changed.
     void problemChanged();

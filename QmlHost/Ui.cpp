@@ -6,7 +6,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QVector>
 
 #include <utility>
 
@@ -53,7 +52,9 @@ Ui::Ui(Resources& sharedResources, QQmlEngine& qmlEngine)
     , engine(qmlEngine)
     , answers(sharedResources.answers())
 {
-    connect(resources, &Resources::answersChanged, this, &Ui::followAnswers);
+    connect(resources, &Resources::answersChanged, this, &Ui::takeAnswers);
+    connect(resources, &Resources::answersTaken, this, &Ui::announceAnswers);
+    connect(resources, &Resources::onlyDisplaySizeChanged, this, &Ui::followDisplaySize);
     connect(resources, &Resources::languageChanged, this, &Ui::followLanguage);
     connect(resources, &Resources::languagesChanged, this, &Ui::languagesChanged);
     connect(resources, &Resources::readyChanged, this, &Ui::readyChanged);
@@ -77,8 +78,10 @@ TarnisFontHandler* Ui::fonts()
 
 TarnisElementDimensionHandler* Ui::dimensions()
 {
-    if (dimensionHandler == nullptr)
-        dimensionHandler = new TarnisElementDimensionHandler(answers.displaySizes.value, this);
+    if (dimensionHandler == nullptr) {
+        const auto sizes = resources.isNull() ? answers.displaySizes.value : resources->usedDisplaySizes();
+        dimensionHandler = new TarnisElementDimensionHandler(sizes, this);
+    }
     return dimensionHandler;
 }
 
@@ -122,10 +125,9 @@ QString Ui::problem() const
     return resources.isNull() ? QString() : resources->problem();
 }
 
-void Ui::followAnswers()
+void Ui::takeAnswers()
 {
     const Answers old = std::exchange(answers, resources->answers());
-    QVector<void (Ui::*)()> signalsToEmit;
     if (answers.colorFile != old.colorFile) {
         release(colorHandler);
         signalsToEmit.append(&Ui::colorsChanged);
@@ -146,8 +148,19 @@ void Ui::followAnswers()
         release(textHandler);
         signalsToEmit.append(&Ui::textsChanged);
     }
-    for (const auto emitSignal : signalsToEmit)
+}
+
+void Ui::announceAnswers()
+{
+    const auto released = std::exchange(signalsToEmit, {});
+    for (const auto emitSignal : released)
         Q_EMIT(this->*emitSignal)();
+}
+
+void Ui::followDisplaySize()
+{
+    release(dimensionHandler);
+    Q_EMIT dimensionsChanged();
 }
 
 void Ui::followScreen(const QScreen* screen)

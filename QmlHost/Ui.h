@@ -9,6 +9,7 @@
 
 #include <QPointer>
 #include <QQmlEngine>
+#include <QVector>
 
 class QScreen;
 
@@ -66,7 +67,9 @@ Q_SIGNALS:
     void problemChanged();
 
 private:
-    void followAnswers();
+    void takeAnswers();
+    void announceAnswers();
+    void followDisplaySize();
     void followScreen(const QScreen* screen);
     void followLanguage();
     TarnisTextHandler* newTexts();
@@ -76,6 +79,7 @@ private:
     QPointer<Resources> resources;
     QQmlEngine& engine;
     Answers answers; // that the handlers are built from
+    QVector<void (Ui::*)()> signalsToEmit; // of the handlers that were released
     TarnisColorHandler* colorHandler = nullptr;
     TarnisFontHandler* fontHandler = nullptr;
     TarnisElementDimensionHandler* dimensionHandler = nullptr;

@@ -40,7 +40,7 @@ Item {
         leftMargin: 8
         cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 150))
         cellHeight: 124
-        rows: Catalog.revision >= 0 ? Catalog.colors(search) : []
+        rows: Catalog.revision >= 0 ? Catalog.colors(View.search) : []
         delegate: Blocks.Entry {
             readonly property string value: Ui.colors.getColor(modelData.group, modelData.key)
             readonly property bool isColor: Catalog.isColor(value)

@@ -5,46 +5,51 @@ import "device" as Device
 
 // The front end of a room controller. Its colors, fonts, sizes, texts and icons come from the library; the measured
 // values are made up.
-Flickable {
+Item {
     id: page
 
     readonly property var dims: Ui.dimensions.uiElementDimensions
-    readonly property bool isSample: "Screen/width" in dims && Catalog.revision >= 0
-        && Catalog.colors("Day/Text").length > 0
+    readonly property var missing: (Catalog.revision >= 0 && Catalog.colors("Day/Text").length > 0 ? []
+        : ["the color Day/Text"]).concat("Screen/width" in dims ? [] : ["the dimension Screen/width"])
+    readonly property bool isSample: missing.length === 0
     property real targetTemperature: 21.5
 
-    contentWidth: Math.max(width, device.width)
-    contentHeight: Math.max(height, device.height)
     clip: true
-    boundsBehavior: Flickable.StopAtBounds
 
     Rectangle {
-        width: page.contentWidth
-        height: page.contentHeight
+        anchors.fill: parent
         color: "#707880"
     }
 
     Blocks.Title {
         anchors.centerIn: parent
+        width: Math.min(parent.width - 32, 560)
         visible: !page.isSample
         color: "white"
-        text: "This page needs the sample resources. The other pages show the loaded resources."
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+        text: !Ui.ready ? "Waiting for the resources."
+            : "This page shows the front end of the sample device. The loaded resources are not made for it: they do not "
+              + "contain " + page.missing.join(" and ") + ". The other pages show all of them."
     }
 
     Loader {
         id: device
 
-        x: Math.max(0, (page.width - width) / 2)
+        x: Math.max(0, (page.width - width * scale) / 2)
         active: page.isSample
         width: active ? page.dims["Screen/width"] : 0
         height: active ? page.dims["Screen/height"] : 0
+        // A screen of the same size has no room for the toolbar.
+        scale: active ? Math.min(1, page.width / width, page.height / height) : 1
+        transformOrigin: Item.TopLeft
         clip: true
         sourceComponent: Rectangle {
             color: Ui.colors.getColor(Device.Theme.name, "Background")
 
             Loader {
                 anchors.fill: parent
-                sourceComponent: View.page === "DeviceSettings" || search !== "" ? settings : home
+                sourceComponent: View.page === "DeviceSettings" ? settings : home
             }
             Loader {
                 anchors.fill: parent
@@ -67,7 +72,7 @@ Flickable {
         id: settings
 
         Device.Settings {
-            filter: search
+            filter: View.search
         }
     }
 }

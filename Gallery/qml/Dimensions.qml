@@ -7,7 +7,7 @@ Blocks.Rows {
 
     readonly property var dimensions: Ui.dimensions.uiElementDimensions
 
-    rows: Catalog.revision >= 0 ? Catalog.dimensions(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.dimensions(View.search) : []
     delegate: Blocks.Entry {
         readonly property string name: modelData
 

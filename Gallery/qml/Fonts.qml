@@ -8,7 +8,7 @@ Blocks.Rows {
 
     readonly property int dotsPerInch: Math.round(Screen.logicalPixelDensity * 25.4)
 
-    rows: Catalog.revision >= 0 ? Catalog.fonts(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.fonts(View.search) : []
     delegate: Blocks.Entry {
         readonly property string family: Ui.fonts.getFontFamily(modelData.group)
         readonly property string usedFamily: Catalog.usedFamily(family)

@@ -9,7 +9,7 @@ Blocks.Cells {
     topMargin: 8
     cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 116))
     cellHeight: 112
-    rows: Catalog.revision >= 0 ? Catalog.icons(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.icons(View.search) : []
     delegate: Blocks.Entry {
         readonly property string alias: modelData
         readonly property string effectiveContext: Catalog.revision >= 0

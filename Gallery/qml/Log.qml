@@ -5,7 +5,7 @@ import "blocks" as Blocks
 Blocks.Rows {
     id: page
 
-    rows: Log.records.filter(record => record.text.toLowerCase().includes(search.toLowerCase()))
+    rows: Log.records.filter(record => record.text.toLowerCase().includes(View.search.toLowerCase()))
     delegate: Blocks.Entry {
         width: page.width
         expression: modelData.text

@@ -34,6 +34,8 @@ ApplicationWindow {
                 width: parent.width
                 height: 34
                 currentIndex: window.tabs.indexOf(View.page.startsWith("Device") ? "Device" : View.page)
+                // The arrow keys change the index.
+                onCurrentIndexChanged: if (activeFocus) View.page = window.tabs[currentIndex]
                 Repeater {
                     model: window.tabs
                     TabButton {
@@ -49,20 +51,21 @@ ApplicationWindow {
                 width: parent.width - 16
                 spacing: 8
                 TextField {
-                    id: search
-
                     Layout.fillWidth: true
                     implicitHeight: 32
                     font.pixelSize: 13
-                    placeholderText: "Search"
+                    enabled: View.page !== "Device" && View.page !== "DeviceDialog" // they contain no list
+                    placeholderText: enabled ? "Search" : ""
                     Accessible.name: "Search on this page"
+                    text: View.search
+                    onTextEdited: View.search = text
                 }
                 Blocks.Choice {
                     Layout.preferredWidth: 110
                     label: "Text language"
                     model: Catalog.languages
-                    value: View.language
-                    onChosen: value => View.language = value
+                    value: Ui.language
+                    onChosen: value => Ui.language = value
                 }
                 Blocks.Choice {
                     Layout.preferredWidth: 150
@@ -87,7 +90,7 @@ ApplicationWindow {
 
         width: parent.width
         height: visible ? Math.max(retry.height, problemText.height) + 12 : 0
-        visible: View.problem !== ""
+        visible: Ui.problem !== ""
         color: "#fde7e7"
 
         Text {
@@ -100,7 +103,7 @@ ApplicationWindow {
             clip: true
             color: "#8c1d18"
             font.pixelSize: 13
-            text: View.problem
+            text: Ui.problem
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
         }
@@ -117,8 +120,6 @@ ApplicationWindow {
     }
 
     Loader {
-        property string search: search.text
-
         y: problem.height
         width: parent.width
         height: parent.height - y

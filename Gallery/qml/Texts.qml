@@ -7,7 +7,7 @@ Blocks.Rows {
 
     readonly property int columnWidth: (width - 24) / (Catalog.languages.length + 1)
 
-    rows: Catalog.revision >= 0 ? Catalog.texts(search) : []
+    rows: Catalog.revision >= 0 ? Catalog.texts(View.search) : []
     header: Row {
         x: 8
         height: 28
@@ -15,7 +15,7 @@ Blocks.Rows {
             model: ["URL"].concat(Catalog.languages)
             Blocks.Title {
                 width: page.columnWidth
-                text: modelData + (modelData === View.language ? " (shown)" : "")
+                text: modelData + (modelData === Ui.language ? " (shown)" : "")
             }
         }
     }
@@ -42,7 +42,7 @@ Blocks.Rows {
                     color: isMissing ? "#b3261e" : "#101820"
                     font.pixelSize: 13
                     wrapMode: Text.Wrap
-                    text: isMissing ? "missing" : modelData === View.language ? Ui.texts.translatedTexts[url]
+                    text: isMissing ? "missing" : modelData === Ui.language ? Ui.texts.translatedTexts[url]
                                                                                : Catalog.text(url, modelData)
                 }
             }

@@ -9,7 +9,7 @@ Item {
     readonly property var dims: Ui.dimensions.uiElementDimensions
     readonly property var texts: Ui.texts.translatedTexts
     readonly property var rows: [
-        { alias: "language", title: texts["text://Settings/Language"], value: View.language },
+        { alias: "language", title: texts["text://Settings/Language"], value: Ui.language },
         { alias: "brightness", title: texts["text://Settings/Brightness"], value: "80 %" },
         { alias: "home", title: texts["text://Settings/Display"], value: Theme.name },
         { alias: "wifi", title: texts["text://Settings/Wifi"], value: texts["text://Wifi/Connected"].arg("Studio 3") },
