@@ -9,8 +9,10 @@ Item {
     id: page
 
     readonly property var dims: Ui.dimensions.uiElementDimensions
-    readonly property var missing: (Catalog.revision >= 0 && Catalog.colors("Day/Text").length > 0 ? []
-        : ["the color Day/Text"]).concat("Screen/width" in dims ? [] : ["the dimension Screen/width"])
+    readonly property bool hasTextColor: Catalog.revision >= 0
+        && Catalog.colors("Day/Text").some(entry => entry.group === "Day" && entry.key === "Text")
+    readonly property var missing: (hasTextColor ? [] : ["the color Day/Text"])
+        .concat("Screen/width" in dims ? [] : ["the dimension Screen/width"])
     readonly property bool isSample: missing.length === 0
     property real targetTemperature: 21.5
 

@@ -55,7 +55,7 @@ ApplicationWindow {
                     implicitHeight: 32
                     font.pixelSize: 13
                     enabled: View.page !== "Device" && View.page !== "DeviceDialog" // they contain no list
-                    placeholderText: enabled ? "Search" : ""
+                    placeholderText: enabled ? "Search" : "Nothing to search on this page"
                     Accessible.name: "Search on this page"
                     text: View.search
                     onTextEdited: View.search = text

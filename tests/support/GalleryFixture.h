@@ -29,15 +29,18 @@ struct GalleryFixture {
         QVERIFY(module->firstLine().endsWith(resources));
     }
 
+    void signalModule(int signal) { ::kill(static_cast<pid_t>(module->process().processId()), signal); }
+
     /// Copies the sample resources to the temporary directory.
     void copyResources() const { QCOMPARE(run("cp", {"-r", QString(RESOURCES) + "/.", path()}).exitStatus, 0); }
 
-    /// Opens the gallery's window on a copy of the sample resources.
-    void startGallery(const QString& page)
+    /// Opens the gallery's window on a resource directory, or on those of the service if the path is empty.
+    void startGallery(const QString& resources, const QString& page)
     {
-        copyResources();
-        startModule(directory.path());
-        gallery.launch(TARNIS_GALLERY, {"--page", page});
+        QStringList arguments{"--page", page};
+        if (!resources.isEmpty())
+            arguments.append(resources);
+        gallery.launch(TARNIS_GALLERY, arguments);
     }
 
 private:
@@ -60,6 +63,8 @@ int runGalleryTest(int argc, char* argv[])
 {
     const TestProcess server("Xvfb", {"-displayfd", "1", "-dpi", "96", "-screen", "0", "1280x800x24"});
     qputenv("DISPLAY", ':' + server.firstLine().toUtf8());
+    const QTemporaryDir temporary; // killed programs leave their temporary files
+    qputenv("TMPDIR", QFile::encodeName(temporary.path()));
     const PrivateBus bus;
     const QGuiApplication application(argc, argv);
     Test test;

@@ -1,0 +1,136 @@
+// The gallery when the service hangs or restarts, when files are faulty, and how its controls act together.
+
+#include "tests/support/DataRows.h"
+#include "tests/support/GalleryFixture.h"
+#include "tests/support/GalleryWindow.h"
+#include "tests/support/HostPage.h"
+
+namespace Tests
+{
+
+class GalleryTroubleTest : public QObject
+{
+    Q_OBJECT
+
+    std::optional<GalleryFixture> fixture;
+    std::optional<ResourceCopy> resources;
+
+private Q_SLOTS:
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+
+    void init()
+    {
+        fixture.emplace();
+        resources.emplace();
+    }
+
+    void cleanup()
+    {
+        fixture.reset();
+        resources.reset();
+    }
+
+    void hangingServiceDoesNotFreezeTheWindow()
+    {
+        fixture->startModule(resources->path);
+        fixture->signalModule(SIGSTOP);
+        GalleryWindow gallery(TarnisUi::service(TarnisUi::Files::Followed));
+        QVERIFY(QTest::qWaitForWindowActive(gallery.window, 10000));
+        QVERIFY2(gallery.text().contains("Waiting for the resources."), qPrintable(gallery.text()));
+        gallery.session.view.setPage("Colors");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("Contrast against"), 10000);
+        QCOMPARE(gallery.session.ui.problem(), QString()); // not even the first call has ended
+        fixture->signalModule(SIGCONT);
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("#1f2a37"), 10000);
+        fixture->signalModule(SIGSTOP);
+        gallery.session.view.reload();
+        gallery.session.view.setPage("Fonts");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("Text/Button"), 10000);
+        QCOMPARE(gallery.session.ui.problem(), QString());
+        fixture->signalModule(SIGCONT);
+    }
+
+    void restartedServiceIsNoticed()
+    {
+        fixture->startModule(resources->path);
+        GalleryWindow gallery(TarnisUi::service(TarnisUi::Files::Followed));
+        gallery.session.view.setPage("Colors");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("#1f2a37"), 10000);
+        const ResourceCopy other;
+        other.shell("paint colors.ini");
+        fixture->startModule(other.path);
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("#fe01fd"), 10000);
+        QCOMPARE(gallery.session.ui.problem(), QString());
+    }
+
+    void eachFileIsJudgedByItself_data() { addRows({"isService", "page", "kept", "file", "content", "message"}); }
+
+    void eachFileIsJudgedByItself()
+    {
+        const QString kept = row()["kept"].toString();
+        const QString file = row()["file"].toString();
+        fixture->startModule(resources->path);
+        GalleryWindow gallery(row()["isService"].toBool() ? TarnisUi::service(TarnisUi::Files::Followed)
+                                                          : TarnisUi::directory(resources->path));
+        gallery.session.view.setPage(row()["page"].toString());
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains(kept), 10000);
+        resources->shell("cp " + file + " ../good");
+        writeFile(resources->path + '/' + file, row()["content"].toString().toUtf8());
+        const QString message = resources->path + '/' + file + row()["message"].toString();
+        QTRY_VERIFY2_WITH_TIMEOUT(gallery.text().contains(message), qPrintable(gallery.text()), 10000);
+        resources->shell("sed -i s/Luftfeuchte/Edited/ texts/de.json");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.session.catalog.texts("Edited").size() == 1, 10000);
+        QVERIFY2(gallery.text().contains(kept), qPrintable(gallery.text()));
+        resources->shell("mv ../good " + file);
+        QTRY_COMPARE_WITH_TIMEOUT(gallery.session.ui.problem(), QString(), 10000);
+    }
+
+    void arrowKeysOnTheTabBarMoveThePage()
+    {
+        GalleryWindow gallery(TarnisUi::directory(resources->path));
+        QVERIFY(QTest::qWaitForWindowActive(gallery.window, 10000));
+        gallery.find("QQuickTabBar")->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(gallery.window, Qt::Key_Tab); // to the first tab
+        for (const QString page : {"Colors", "Fonts"}) {
+            QTest::keyClick(gallery.window, Qt::Key_Right);
+            QCOMPARE(gallery.session.view.page(), page);
+        }
+        QTest::keyClick(gallery.window, Qt::Key_Left);
+        QCOMPARE(gallery.session.view.page(), QString("Colors"));
+    }
+
+    void searchBelongsToItsPageAndSurvivesSwitching()
+    {
+        GalleryWindow gallery(TarnisUi::directory(resources->path));
+        QVERIFY(QTest::qWaitForWindowActive(gallery.window, 10000));
+        gallery.session.view.setPage("Icons");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("airQuality"), 10000);
+        gallery.find("QQuickTextField")->forceActiveFocus();
+        for (const char key : {'w', 'i', 'f', 'i'})
+            QTest::keyClick(gallery.window, key);
+        QTRY_VERIFY_WITH_TIMEOUT(!gallery.text().contains("airQuality"), 10000);
+        gallery.session.view.setPage("Device");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("Humidity"), 10000);
+        gallery.session.view.setPage("Icons");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("wifi") && !gallery.text().contains("airQuality"), 10000);
+    }
+
+    void devicePageTellsWhatADirectoryOfOnesOwnLacks_data() { addRows({"change", "message"}); }
+
+    void devicePageTellsWhatADirectoryOfOnesOwnLacks()
+    {
+        resources->shell(row()["change"].toString());
+        const GalleryWindow gallery(TarnisUi::directory(resources->path));
+        QTRY_VERIFY2_WITH_TIMEOUT(gallery.text().contains(row()["message"].toString()), qPrintable(gallery.text()),
+                                  10000);
+    }
+};
+
+} // namespace Tests
+
+int main(int argc, char* argv[])
+{
+    return Tests::runGalleryTest<Tests::GalleryTroubleTest>(argc, argv);
+}
+
+#include "GalleryTroubleTest.moc"
