@@ -77,7 +77,7 @@ private:
     QStringList urls(const QString& language) const;
 
     const TarnisUi& ui;
-    QmlHost::Answers answers;                  // that the lists are read from
+    QmlHost::Answers answers;                 // that the lists are read from
     std::unique_ptr<TextManager> textManager; // null without texts
     int currentRevision = 0;
     QVariantList colorEntries;

@@ -23,7 +23,8 @@ void addMappingFault(const Directory& directory, QStringList& faults)
     const QString path = directory.mappingTable();
     QString unreadable;
     const QByteArray content = RegularFile::readAll(path, unreadable);
-    const QString fault = unreadable.isNull() ? LastGoodFiles::jsonFault(path, content) : QStringLiteral("%1: %2").arg(path, unreadable);
+    const QString fault =
+        unreadable.isNull() ? LastGoodFiles::jsonFault(path, content) : QStringLiteral("%1: %2").arg(path, unreadable);
     if (!fault.isNull())
         faults.append(fault);
 }

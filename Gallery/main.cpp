@@ -39,9 +39,8 @@ int takePictures(QQuickWindow& window, Session& session, const Options& options)
 {
     session.log.takeNew();
     Screenshots screenshots(window, session);
-    const bool isTaken = options.screenshot.isEmpty()
-        ? screenshots.takeAll(options.screenshotDirectory)
-        : screenshots.take(options.screenshot);
+    const bool isTaken = options.screenshot.isEmpty() ? screenshots.takeAll(options.screenshotDirectory)
+                                                      : screenshots.take(options.screenshot);
     if (!isTaken) {
         return fail(Failure,
                     QStringLiteral("cannot draw or write %1").arg(options.screenshot + options.screenshotDirectory));

@@ -78,7 +78,7 @@ private:
 
     QPointer<Resources> resources;
     QQmlEngine& engine;
-    Answers answers; // that the handlers are built from
+    Answers answers;                       // that the handlers are built from
     QVector<void (Ui::*)()> signalsToEmit; // of the handlers that were released
     TarnisColorHandler* colorHandler = nullptr;
     TarnisFontHandler* fontHandler = nullptr;

@@ -66,13 +66,18 @@ class GalleryCommandTest : public QObject
 private Q_SLOTS:
     void init() { fixture.emplace(); }
 
-    void dumpAgreesWithAnIndependentReadingOfTheFiles_data() { addRows({"language"}); }
+    void dumpAgreesWithAnIndependentReadingOfTheFiles_data() { addRows({"language", "isService"}); }
 
     void dumpAgreesWithAnIndependentReadingOfTheFiles()
     {
         const QString language = row()["language"].toString();
-        fixture->startModule(RESOURCES);
-        const Outcome outcome = run("env", {"-u", "DISPLAY", TARNIS_GALLERY, "--dump", "--language", language});
+        const bool isService = row()["isService"].toBool();
+        if (isService)
+            fixture->startModule(RESOURCES);
+        const QStringList bus{"-u", "DISPLAY", isService ? "QT_FONT_DPI=96" : "DBUS_SYSTEM_BUS_ADDRESS=unix:path=/no"};
+        const QStringList command{TARNIS_GALLERY, "--dump", "--language", language};
+        const QStringList directory = isService ? QStringList() : QStringList(RESOURCES);
+        const Outcome outcome = run("env", bus + command + directory);
         QVERIFY2(outcome.exitStatus == 0, outcome.errors);
         QVariantMap found;
         flatten("", QJsonDocument::fromJson(outcome.output).object(), found);
@@ -80,6 +85,14 @@ private Q_SLOTS:
         QVERIFY(expected.size() > 300);
         for (const QString& name : found.keys() + expected.keys())
             QVERIFY2(found.value(name) == expected.value(name), qPrintable(name));
+    }
+
+    void withoutTheServiceNoTextsAreReadFromTheWorkingDirectory()
+    {
+        const Outcome outcome = run("env", {"-C", RESOURCES "/texts", TARNIS_GALLERY, "--dump"});
+        QCOMPARE(outcome.exitStatus, 1);
+        const QJsonObject answers = QJsonDocument::fromJson(outcome.output).object();
+        QCOMPARE(answers["texts"], QJsonValue(QJsonObject()));
     }
 
     void pictureOfThePageColorsShowsEveryColorOfTheFile()

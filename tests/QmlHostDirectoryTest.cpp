@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSettings>
 
 #include <optional>
 
@@ -116,6 +117,27 @@ private Q_SLOTS:
         page.engine.collectGarbage();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(destroyed, 5);
+    }
+
+    void hostLimitsTheDisplaySizeAndSeesTheAnswersBeforeQmlIsTold()
+    {
+        TarnisUi ui(TarnisUi::directory(resources->path));
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups + "function look() { return Ui.colors.getColor('Day', 'Text') }");
+        for (const auto& [size, path] : ui.answers().displaySizes.value) {
+            ui.setDisplaySize(size);
+            QCOMPARE(page["height"].toInt(), QSettings(path, QSettings::IniFormat).value("Button/height").toInt());
+        }
+        ui.setDisplaySize({1, 1}); // not supported
+        QCOMPARE(page["all"].toString(), resources->lookups("Cancel"));
+        QStringList seen;
+        connect(&ui, &TarnisUi::answersChanged, [&] {
+            seen += {ui.answers().colorFile.value, page["color"].toString(), page.call("look").toString()};
+        });
+        resources->shell("paint colors.ini");
+        QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
+        QCOMPARE(seen, (QStringList{resources->path + "/colors.ini", "#1f2a37", "#fe01fd"}));
     }
 
     void newPrimaryScreenGetsNewFontsAndDimensions()

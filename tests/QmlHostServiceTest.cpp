@@ -124,6 +124,21 @@ private Q_SLOTS:
         QCOMPARE((QList<int>{colors.count(), icons.count(), texts.count()}), (QList<int>{1, 0, 1}));
     }
 
+    void filesOfTheServiceAreFollowedOnRequest()
+    {
+        startModule();
+        TarnisUi ui(TarnisUi::service(TarnisUi::Files::Followed));
+        QVERIFY(ui.waitUntilReady(10000));
+        QSignalSpy changes(&ui, &TarnisUi::answersChanged);
+        resources->shell("echo >> icons/day/home.svg");
+        QVERIFY(changes.wait(10000));
+        const ResourceCopy other;
+        module.emplace(TARNIS_MODULE, QStringList{"--resources", other.path});
+        QTRY_VERIFY_WITH_TIMEOUT(ui.answers().colorFile.value.startsWith(other.path), 10000);
+        other.shell("echo >> icons/day/home.svg");
+        QVERIFY(changes.wait(10000));
+    }
+
     void failedQuestionKeepsWhatWasThereAndIsRepeated()
     {
         startModule();
