@@ -54,11 +54,6 @@ QStringList Catalog::displays() const
     return displayNames;
 }
 
-QStringList Catalog::languages() const
-{
-    return answers.languages;
-}
-
 QVariantList Catalog::colors(const QString& search) const
 {
     return matching(colorEntries, search);

@@ -30,7 +30,6 @@ class Catalog : public QObject
     Q_PROPERTY(QStringList contexts READ contexts NOTIFY changed)
     /// The names of the supported display sizes.
     Q_PROPERTY(QStringList displays READ displays NOTIFY changed)
-    Q_PROPERTY(QStringList languages READ languages NOTIFY changed)
 
 public:
     /// Follows the answers of `tarnisUi`, which must outlive the catalog.
@@ -39,7 +38,6 @@ public:
     int revision() const;
     QStringList contexts() const;
     QStringList displays() const;
-    QStringList languages() const;
 
     /// A list of Entry, in the order of the file.
     Q_INVOKABLE QVariantList colors(const QString& search) const;

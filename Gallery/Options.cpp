@@ -101,7 +101,7 @@ QString Options::check(const Session& session) const
 {
     const Catalog& catalog = session.catalog;
     const QString wrongPage = unknown("page", page, session.view.pages());
-    const QString wrongLanguage = unknown("language", language, catalog.languages());
+    const QString wrongLanguage = unknown("language", language, session.ui.languages());
     const QString wrongContext = unknown("context", context, catalog.contexts());
     const QString wrongDisplay = display.isEmpty() ? QString() : unknown("display size", display, catalog.displays());
     for (const QString& message : {wrongPage, wrongLanguage, wrongContext, wrongDisplay}) {

@@ -50,7 +50,7 @@ bool Screenshots::takeAll(const QString& directory)
 {
     View& view = session.view;
     const QStringList displays = session.catalog.displays();
-    const QStringList languages = session.catalog.languages();
+    const QStringList languages = session.ui.languages();
     QDir().mkpath(directory);
     const int all = view.pages().size() * displays.size() * languages.size();
     int done = 0;

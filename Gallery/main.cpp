@@ -37,7 +37,6 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
 
 int takePictures(QQuickWindow& window, Session& session, const Options& options)
 {
-    session.log.takeNew();
     Screenshots screenshots(window, session);
     const bool isTaken = options.screenshot.isEmpty() ? screenshots.takeAll(options.screenshotDirectory)
                                                       : screenshots.take(options.screenshot);
@@ -53,6 +52,7 @@ int takePictures(QQuickWindow& window, Session& session, const Options& options)
 
 int show(Session& session, const Options& options)
 {
+    session.log.takeNew(); // what comes after it is of lookups
     const QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return fail(Failure, QStringLiteral("the window could not be built"));

@@ -128,26 +128,12 @@ QString Ui::problem() const
 void Ui::takeAnswers()
 {
     const Answers old = std::exchange(answers, resources->answers());
-    if (answers.colorFile != old.colorFile) {
-        release(colorHandler);
-        signalsToEmit.append(&Ui::colorsChanged);
-    }
-    if (answers.fontFile != old.fontFile) {
-        release(fontHandler);
-        signalsToEmit.append(&Ui::fontsChanged);
-    }
-    if (answers.displaySizes != old.displaySizes) {
-        release(dimensionHandler);
-        signalsToEmit.append(&Ui::dimensionsChanged);
-    }
-    if (answers.icons != old.icons) {
-        release(iconHandler);
-        signalsToEmit.append(&Ui::iconsChanged);
-    }
-    if (answers.textFolder != old.textFolder && resources->textManager() == nullptr) {
-        release(textHandler);
-        signalsToEmit.append(&Ui::textsChanged);
-    }
+    releaseIf(answers.colorFile != old.colorFile, colorHandler, &Ui::colorsChanged);
+    releaseIf(answers.fontFile != old.fontFile, fontHandler, &Ui::fontsChanged);
+    releaseIf(answers.displaySizes != old.displaySizes, dimensionHandler, &Ui::dimensionsChanged);
+    releaseIf(answers.icons != old.icons, iconHandler, &Ui::iconsChanged);
+    const bool areTextsOutdated = answers.textFolder != old.textFolder && resources->textManager() == nullptr;
+    releaseIf(areTextsOutdated, textHandler, &Ui::textsChanged);
 }
 
 void Ui::announceAnswers()
@@ -189,6 +175,15 @@ TarnisTextHandler* Ui::newTexts()
     auto* const handler = new TarnisTextHandler(*ownTextManager, this);
     ownTextManager->setParent(handler); // so that it lives as long
     return handler;
+}
+
+template <typename Handler>
+void Ui::releaseIf(bool isOutdated, Handler*& handler, void (Ui::*signal)())
+{
+    if (!isOutdated)
+        return;
+    release(handler);
+    signalsToEmit.append(signal);
 }
 
 template <typename Handler>

@@ -74,6 +74,8 @@ private:
     void followLanguage();
     TarnisTextHandler* newTexts();
     template <typename Handler>
+    void releaseIf(bool isOutdated, Handler*& handler, void (Ui::*signal)());
+    template <typename Handler>
     void release(Handler*& handler);
 
     QPointer<Resources> resources;

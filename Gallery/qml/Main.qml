@@ -63,7 +63,7 @@ ApplicationWindow {
                 Blocks.Choice {
                     Layout.preferredWidth: 110
                     label: "Text language"
-                    model: Catalog.languages
+                    model: Ui.languages
                     value: Ui.language
                     onChosen: value => Ui.language = value
                 }

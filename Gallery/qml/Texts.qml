@@ -5,14 +5,14 @@ import "blocks" as Blocks
 Blocks.Rows {
     id: page
 
-    readonly property int columnWidth: (width - 24) / (Catalog.languages.length + 1)
+    readonly property int columnWidth: (width - 24) / (Ui.languages.length + 1)
 
     rows: Catalog.revision >= 0 ? Catalog.texts(View.search) : []
     header: Row {
         x: 8
         height: 28
         Repeater {
-            model: ["URL"].concat(Catalog.languages)
+            model: ["URL"].concat(Ui.languages)
             Blocks.Title {
                 width: page.columnWidth
                 text: modelData + (modelData === Ui.language ? " (shown)" : "")
@@ -33,7 +33,7 @@ Blocks.Rows {
                 text: url
             }
             Repeater {
-                model: Catalog.languages
+                model: Ui.languages
                 Blocks.Caption {
                     readonly property bool isMissing: Catalog.revision >= 0 && Catalog.isTextMissing(url, modelData)
 
