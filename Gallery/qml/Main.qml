@@ -63,14 +63,14 @@ ApplicationWindow {
                 Blocks.Choice {
                     Layout.preferredWidth: 110
                     label: "Text language"
-                    model: Ui.languages
+                    model: Ui.languages.length > 0 ? Ui.languages : [Ui.language]
                     value: Ui.language
                     onChosen: value => Ui.language = value
                 }
                 Blocks.Choice {
                     Layout.preferredWidth: 150
                     label: "Icon context"
-                    model: Catalog.contexts
+                    model: Catalog.contexts.length > 0 ? Catalog.contexts : [View.context]
                     value: View.context
                     onChosen: value => View.context = value
                 }
