@@ -1,6 +1,7 @@
 #include "Gallery/Options.h"
 
 #include "Gallery/Session.h"
+#include "ResourceFormat/Language.h"
 
 #include <QCommandLineParser>
 
@@ -28,7 +29,7 @@ struct Parser : QCommandLineParser {
 
     const QString name = QStringLiteral("NAME");
     const QCommandLineOption language{QStringLiteral("language"), QStringLiteral("Text language."), name,
-                                      QStringLiteral("en")};
+                                      ResourceFormat::Language::secondFallback()};
     const QCommandLineOption context{QStringLiteral("context"), QStringLiteral("Icon context."), name,
                                      TarnisIconHandler::defaultContextPathKey};
     const QCommandLineOption display{

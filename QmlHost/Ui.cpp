@@ -36,12 +36,6 @@ TarnisIconHandler* newIcons(const Answers& answers, QObject* parent)
     return new QmlHost::QuietIconHandler(parent);
 }
 
-// A text manager needs a directory, and an empty path would be the working directory. This one contains no file.
-QString noDirectory()
-{
-    return QStringLiteral("/dev/null");
-}
-
 } // namespace
 
 namespace QmlHost
@@ -170,8 +164,7 @@ TarnisTextHandler* Ui::newTexts()
 {
     if (!resources.isNull() && resources->textManager() != nullptr)
         return new TarnisTextHandler(*resources->textManager(), this);
-    ownTextManager =
-        new TextManager(answers.textFolder.isAnswered() ? answers.textFolder.value : noDirectory(), language());
+    ownTextManager = new TextManager(answers.textFolder.value, language());
     auto* const handler = new TarnisTextHandler(*ownTextManager, this);
     ownTextManager->setParent(handler); // so that it lives as long
     return handler;

@@ -47,13 +47,6 @@ class QmlHostServiceTest : public QObject
         QVERIFY(module->firstLine().endsWith(resources->path));
     }
 
-    void signalModule(int signal)
-    {
-        const auto process = static_cast<pid_t>(module->process().processId());
-        QVERIFY2(process > 0, "the module does not run"); // 0 would be this process and its parents
-        ::kill(process, signal);
-    }
-
 private Q_SLOTS:
     void init() { resources.emplace(); }
 
@@ -84,7 +77,7 @@ private Q_SLOTS:
     void stoppedServiceBlocksOnlyTheEndAndForOneCall()
     {
         startModule();
-        signalModule(SIGSTOP);
+        module->sendSignal(SIGSTOP);
         const Log log;
         {
             TarnisUi ui;
@@ -98,7 +91,7 @@ private Q_SLOTS:
         ui.publish();
         const Page page(lookups);
         QVERIFY(!ui.waitUntilReady(100));
-        signalModule(SIGCONT);
+        module->sendSignal(SIGCONT);
         QVERIFY(ui.waitUntilReady(10000));
         QCOMPARE(page["all"].toString(), resources->lookups("Cancel"));
     }

@@ -29,7 +29,7 @@ struct GalleryFixture {
         QVERIFY(module->firstLine().endsWith(resources));
     }
 
-    void signalModule(int signal) { ::kill(static_cast<pid_t>(module->process().processId()), signal); }
+    void signalModule(int signal) { module->sendSignal(signal); }
 
     /// Copies the sample resources to the temporary directory.
     void copyResources() const { QCOMPARE(run("cp", {"-r", QString(RESOURCES) + "/.", path()}).exitStatus, 0); }

@@ -45,6 +45,14 @@ struct TestProcess {
     QString firstLine() const { return line; }
     QProcess& process() { return child; }
 
+    /// Ends the test if the program does not run: process 0 would be the test itself and its parents.
+    void sendSignal(int signal)
+    {
+        if (child.processId() == 0)
+            qFatal("%s does not run", qPrintable(child.program()));
+        ::kill(static_cast<pid_t>(child.processId()), signal);
+    }
+
 private:
     Child child;
     QString line;
