@@ -21,9 +21,11 @@ void Session::waitForSource(int milliseconds)
     if (ui.isReady() || !ui.problem().isEmpty())
         return;
     QEventLoop loop;
+    QTimer timer;
     QObject::connect(&ui, &TarnisUi::readyChanged, &loop, &QEventLoop::quit);
     QObject::connect(&ui, &TarnisUi::problemChanged, &loop, &QEventLoop::quit);
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(milliseconds);
     loop.exec();
 }
 
