@@ -1,7 +1,7 @@
 #include "Gallery/Dump.h"
 
-#include "Gallery/Catalog.h"
-#include "Gallery/Entry.h"
+#include "Gallery/catalog/Catalogs.h"
+#include "Gallery/catalog/Entry.h"
 #include "QmlHost/Ui.h"
 
 #include <QJsonDocument>
@@ -23,26 +23,26 @@ void insertBelow(QJsonObject& object, const QString& name, const QString& subnam
 
 } // namespace
 
-QByteArray dump(const Catalog& catalog)
+QByteArray dump(const Catalogs& catalogs)
 {
     QQmlEngine engine;
     auto* ui = engine.singletonInstance<QmlHost::Ui*>(qmlTypeId("Tarnis", 1, 0, "Ui"));
     QJsonObject colors;
-    for (const QVariant& variant : catalog.colors(QString())) {
+    for (const QVariant& variant : catalogs.colors.entries(QString())) {
         const auto entry = variant.value<Entry>();
         insertBelow(colors, entry.group, entry.key, ui->colors()->getColor(entry.group, entry.key));
     }
     QJsonObject families;
     QJsonObject sizes;
-    for (const QVariant& variant : catalog.fonts(QString())) {
+    for (const QVariant& variant : catalogs.fonts.entries(QString())) {
         const auto entry = variant.value<Entry>();
         if (!families.contains(entry.group))
             families.insert(entry.group, ui->fonts()->getFontFamily(entry.group));
         insertBelow(sizes, entry.group, entry.key, ui->fonts()->getFontPointSize(entry.group, entry.key));
     }
     QJsonObject icons;
-    const QStringList contexts = catalog.contexts();
-    for (const QString& alias : catalog.icons(QString())) {
+    const QStringList contexts = catalogs.icons.contexts();
+    for (const QString& alias : catalogs.icons.aliases(QString())) {
         for (const QString& context : contexts)
             insertBelow(icons, alias, context, ui->icons()->getIconPathAsFileUrl(alias, context));
     }

@@ -5,9 +5,9 @@
 namespace Gallery
 {
 
-class Catalog;
+struct Catalogs;
 
 /// Every lookup of the pages with its answer, as indented JSON. TarnisUi must be published.
-QByteArray dump(const Catalog& catalog);
+QByteArray dump(const Catalogs& catalogs);
 
 } // namespace Gallery

@@ -1,6 +1,7 @@
 #include "Gallery/Options.h"
 
 #include "Gallery/Session.h"
+#include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
 
 #include <QCommandLineParser>
@@ -24,7 +25,7 @@ struct Parser : QCommandLineParser {
         addPositionalArgument(QStringLiteral("DIR"),
                               QStringLiteral("Resource directory to show. It needs no bus and no service."),
                               QStringLiteral("[DIR]"));
-        addOptions({language, context, display, page, screenshot, screenshotAll, dump});
+        addOptions({language, context, display, page, theme, size, screenshot, screenshotAll, dump});
     }
 
     const QString name = QStringLiteral("NAME");
@@ -38,6 +39,12 @@ struct Parser : QCommandLineParser {
         QStringLiteral("WxH")};
     const QCommandLineOption page{QStringLiteral("page"), QStringLiteral("First page to show."), name,
                                   QStringLiteral("Device")};
+    const QCommandLineOption theme{QStringLiteral("theme"), QStringLiteral("Look of the gallery: light or dark."), name,
+                                   View::themes().constFirst()};
+    const QCommandLineOption size{
+        QStringLiteral("size"),
+        QStringLiteral("Size of the window in pixels, instead of the one that suits the screen."),
+        QStringLiteral("WxH")};
     const QCommandLineOption screenshot{QStringLiteral("screenshot"),
                                         QStringLiteral("Write a picture of the page and exit."),
                                         QStringLiteral("FILE.png")};
@@ -92,6 +99,12 @@ QString Options::parse(int argc, char* argv[])
     context = parser.value(parser.context);
     display = parser.value(parser.display);
     page = parser.value(parser.page);
+    theme = parser.value(parser.theme);
+    if (!View::themes().contains(theme))
+        return unknown("theme", theme, View::themes());
+    windowSize = ResourceFormat::DisplaySize::fromName(parser.value(parser.size));
+    if (parser.isSet(parser.size) && !windowSize.isValid())
+        return QStringLiteral("\"%1\" is not a window size; write it as 1280x800").arg(parser.value(parser.size));
     screenshot = parser.value(parser.screenshot);
     screenshotDirectory = parser.value(parser.screenshotAll);
     isDump = parser.isSet(parser.dump);
@@ -100,11 +113,12 @@ QString Options::parse(int argc, char* argv[])
 
 QString Options::check(const Session& session) const
 {
-    const Catalog& catalog = session.catalog;
+    const Catalogs& catalogs = session.catalogs;
     const QString wrongPage = unknown("page", page, session.view.pages());
     const QString wrongLanguage = unknown("language", language, session.ui.languages());
-    const QString wrongContext = unknown("context", context, catalog.contexts());
-    const QString wrongDisplay = display.isEmpty() ? QString() : unknown("display size", display, catalog.displays());
+    const QString wrongContext = unknown("context", context, catalogs.icons.contexts());
+    const QString wrongDisplay =
+        display.isEmpty() ? QString() : unknown("display size", display, catalogs.dimensions.displays());
     for (const QString& message : {wrongPage, wrongLanguage, wrongContext, wrongDisplay}) {
         if (!message.isEmpty())
             return message;

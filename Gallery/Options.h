@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 namespace Gallery
@@ -27,6 +28,8 @@ struct Options {
     QString context;
     QString display;
     QString page;
+    QString theme;
+    QSize windowSize; ///< Invalid if it is not given.
     QString screenshot;
     QString screenshotDirectory;
     bool isDump = false;

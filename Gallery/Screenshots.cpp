@@ -46,16 +46,24 @@ bool Screenshots::take(const QString& path)
     return window.isExposed() && window.grabWindow().save(path);
 }
 
+void Screenshots::showWholeDisplay()
+{
+    const QSize least(800, 480);
+    const QSize chrome = window.property("chrome").toSizeF().toSize();
+    window.resize((session.view.displaySize() + chrome).expandedTo(least));
+}
+
 bool Screenshots::takeAll(const QString& directory)
 {
     View& view = session.view;
-    const QStringList displays = session.catalog.displays();
+    const QStringList displays = session.catalogs.dimensions.displays();
     const QStringList languages = session.ui.languages();
     QDir().mkpath(directory);
     const int all = view.pages().size() * displays.size() * languages.size();
     int done = 0;
     for (const QString& display : displays) {
         view.setDisplay(display);
+        showWholeDisplay();
         for (const QString& language : languages) {
             session.ui.setLanguage(language);
             for (const QString& page : view.pages()) {

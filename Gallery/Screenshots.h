@@ -23,6 +23,8 @@ public:
     bool takeAll(const QString& directory);
 
 private:
+    void showWholeDisplay();
+
     QQuickWindow& window;
     Session& session;
 };

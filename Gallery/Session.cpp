@@ -11,7 +11,7 @@ namespace Gallery
 
 Session::Session(std::unique_ptr<QmlHost::Source> source)
     : ui(std::make_unique<LastGoodSource>(std::move(source)))
-    , catalog(ui)
+    , catalogs(ui)
     , view(ui)
 {
 }
@@ -32,7 +32,11 @@ void Session::waitForSource(int milliseconds)
 void Session::publish()
 {
     ui.publish();
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Catalog", &catalog);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "ColorCatalog", &catalogs.colors);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "FontCatalog", &catalogs.fonts);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "DimensionCatalog", &catalogs.dimensions);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "IconCatalog", &catalogs.icons);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "TextCatalog", &catalogs.texts);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "View", &view);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Gallery/Catalog.h"
 #include "Gallery/MessageLog.h"
 #include "Gallery/View.h"
+#include "Gallery/catalog/Catalogs.h"
 #include "QmlHost/TarnisUi.h"
 
 #include <memory>
@@ -23,7 +23,7 @@ struct Session {
 
     MessageLog log;
     TarnisUi ui;
-    Catalog catalog;
+    Catalogs catalogs;
     View view;
 };
 

@@ -13,6 +13,7 @@ View::View(TarnisUi& tarnisUi)
     : ui(tarnisUi)
     , pageName(pages().constFirst())
     , contextName(TarnisIconHandler::defaultContextPathKey)
+    , themeName(themes().constFirst())
 {
     connect(&ui, &TarnisUi::displaySizeChanged, this, &View::changed);
 }
@@ -78,6 +79,37 @@ void View::setDisplay(const QString& name)
 QSize View::displaySize() const
 {
     return ui.displaySize();
+}
+
+QStringList View::themes()
+{
+    return {QStringLiteral("light"), QStringLiteral("dark")};
+}
+
+QString View::theme() const
+{
+    return themeName;
+}
+
+void View::setTheme(const QString& name)
+{
+    if (name == themeName)
+        return;
+    themeName = name;
+    Q_EMIT changed();
+}
+
+QSize View::windowSize() const
+{
+    return initialWindowSize;
+}
+
+void View::setWindowSize(const QSize& size)
+{
+    if (size == initialWindowSize)
+        return;
+    initialWindowSize = size;
+    Q_EMIT changed();
 }
 
 void View::reload()

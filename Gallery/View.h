@@ -25,6 +25,10 @@ class View : public QObject
     Q_PROPERTY(QString display READ display WRITE setDisplay NOTIFY changed)
     /// In pixels; invalid if `display` is empty.
     Q_PROPERTY(QSize displaySize READ displaySize NOTIFY changed)
+    /// The look of the gallery itself: "light" or "dark".
+    Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY changed)
+    /// The size of the window when it opens, in pixels; invalid for the one that suits the screen.
+    Q_PROPERTY(QSize windowSize READ windowSize WRITE setWindowSize NOTIFY changed)
 
 public:
     /// `tarnisUi` must outlive the view.
@@ -40,6 +44,11 @@ public:
     QString display() const;
     void setDisplay(const QString& name);
     QSize displaySize() const;
+    static QStringList themes();
+    QString theme() const;
+    void setTheme(const QString& name);
+    QSize windowSize() const;
+    void setWindowSize(const QSize& size);
 
     /// Asks for the resources again.
     Q_INVOKABLE void reload();
@@ -55,6 +64,8 @@ private:
     TarnisUi& ui;
     QString pageName;
     QString contextName;
+    QString themeName;
+    QSize initialWindowSize;
     QHash<QString, QString> searches; // by page
 };
 

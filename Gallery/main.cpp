@@ -53,6 +53,8 @@ int takePictures(QQuickWindow& window, Session& session, const Options& options)
 int show(Session& session, const Options& options)
 {
     session.log.takeNew(); // what comes after it is of lookups
+    if (!options.isInteractive())
+        qputenv("QT_QUICK_CONTROLS_HOVER_ENABLED", "0"); // the pictures do not depend on the place of the pointer
     const QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return fail(Failure, QStringLiteral("the window could not be built"));
@@ -67,6 +69,8 @@ void apply(const Options& options, Session& session)
     session.view.setDisplay(options.display);
     session.view.setPage(options.page);
     session.view.setContext(options.context);
+    session.view.setTheme(options.theme);
+    session.view.setWindowSize(options.windowSize);
 }
 
 int run(const Options& options)
@@ -93,7 +97,7 @@ int run(const Options& options)
     session.publish();
     if (!options.isDump)
         return show(session, options);
-    std::fputs(dump(session.catalog).constData(), stdout);
+    std::fputs(dump(session.catalogs).constData(), stdout);
     return session.ui.problem().isEmpty() ? Success : Failure;
 }
 

@@ -46,7 +46,7 @@ private Q_SLOTS:
             QVERIFY(cells->childItems().size() > 20 && cells->childItems().size() < 500);
         }
         grid->setProperty("contentY", end / 2);
-        QSignalSpy changes(&gallery->session.catalog, &Gallery::Catalog::changed);
+        QSignalSpy changes(&gallery->session.catalogs.icons, &Gallery::Catalog::changed);
         writeFile(fixture.path("icons/one.svg"), "<svg xmlns='http://www.w3.org/2000/svg' width='9'/>");
         QVERIFY(changes.wait(10000));
         QCOMPARE(grid->property("contentY").toInt(), end / 2);

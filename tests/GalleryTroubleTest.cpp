@@ -79,23 +79,22 @@ private Q_SLOTS:
         const QString message = resources->path + '/' + file + row()["message"].toString();
         QTRY_VERIFY2_WITH_TIMEOUT(gallery.text().contains(message), qPrintable(gallery.text()), 10000);
         resources->shell("sed -i 's/\"Humidity\"/\"Edited\"/' texts/en.json");
-        QTRY_VERIFY_WITH_TIMEOUT(gallery.session.catalog.texts("Edited").size() == 1, 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.session.catalogs.texts.urls("Edited").size() == 1, 10000);
         QVERIFY2(gallery.text().contains(kept), qPrintable(gallery.text()));
         resources->shell("mv ../good " + file);
         QTRY_COMPARE_WITH_TIMEOUT(gallery.session.ui.problem(), QString(), 10000);
     }
 
-    void arrowKeysOnTheTabBarMoveThePage()
+    void arrowKeysInTheListOfPagesMoveThePage()
     {
         GalleryWindow gallery(TarnisUi::directory(resources->path));
         QVERIFY(QTest::qWaitForWindowActive(gallery.window, 10000));
-        gallery.find("QQuickTabBar")->forceActiveFocus(Qt::TabFocusReason);
-        QTest::keyClick(gallery.window, Qt::Key_Tab); // to the first tab
+        gallery.window->findChild<QQuickItem*>("navigation")->forceActiveFocus(Qt::TabFocusReason);
         for (const QString page : {"Colors", "Fonts"}) {
-            QTest::keyClick(gallery.window, Qt::Key_Right);
+            QTest::keyClick(gallery.window, Qt::Key_Down);
             QCOMPARE(gallery.session.view.page(), page);
         }
-        QTest::keyClick(gallery.window, Qt::Key_Left);
+        QTest::keyClick(gallery.window, Qt::Key_Up);
         QCOMPARE(gallery.session.view.page(), QString("Colors"));
     }
 

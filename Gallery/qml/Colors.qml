@@ -1,11 +1,12 @@
 import QtQuick 2.15
 import Tarnis 1.0
 import "blocks" as Blocks
+import "theme"
 
-Item {
+Blocks.Page {
     id: page
 
-    readonly property var entries: Catalog.revision >= 0 ? Catalog.colors("") : []
+    readonly property var entries: ColorCatalog.revision >= 0 ? ColorCatalog.entries("") : []
     readonly property var names: entries.map(entry => entry.group + "/" + entry.key)
     property string background: "white"
     readonly property int backgroundIndex: names.indexOf(background)
@@ -13,38 +14,37 @@ Item {
         ? background
         : Ui.colors.getColor(entries[backgroundIndex].group, entries[backgroundIndex].key)
 
-    Row {
-        id: bar
-
-        x: 12
-        height: 44
-        spacing: 8
-
+    title: "Colors"
+    subtitle: cells.count + " colors"
+    isEmpty: cells.count === 0
+    emptyText: "The color file contains no colors."
+    controls: [
         Blocks.Caption {
-            anchors.verticalCenter: parent.verticalCenter
+            height: Theme.controlHeight
+            verticalAlignment: Text.AlignVCenter
             text: "Contrast against"
-        }
+        },
         Blocks.Choice {
-            anchors.verticalCenter: parent.verticalCenter
             width: 260
             label: "Background color for the contrast ratio"
             model: ["white", "black"].concat(page.names)
             value: page.background
             onChosen: value => page.background = value
         }
-    }
+    ]
 
     Blocks.Cells {
+        id: cells
+
         anchors.fill: parent
-        anchors.topMargin: bar.height
         leftMargin: 8
         cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 150))
         cellHeight: 124
-        rows: Catalog.revision >= 0 ? Catalog.colors(View.search) : []
+        rows: ColorCatalog.revision >= 0 ? ColorCatalog.entries(View.search) : []
         delegate: Blocks.Entry {
             readonly property string value: Ui.colors.getColor(modelData.group, modelData.key)
-            readonly property bool isColor: Catalog.isColor(value)
-            readonly property double contrast: Catalog.contrast(value, page.backgroundColor)
+            readonly property bool isColor: ColorCatalog.isColor(value)
+            readonly property double contrast: ColorCatalog.contrast(value, page.backgroundColor)
 
             width: GridView.view.cellWidth
             height: GridView.view.cellHeight
@@ -54,7 +54,7 @@ Item {
                 Rectangle {
                     width: parent.width - 8
                     height: 50
-                    border.color: "#c0c8d0"
+                    border.color: Theme.line
                     color: isColor ? value : "transparent"
                     Blocks.Mark {
                         anchors.centerIn: parent

@@ -5,12 +5,16 @@ import "device" as Device
 
 // The front end of a room controller. Its colors, fonts, sizes, texts and icons come from the library; the measured
 // values are made up.
-Item {
+Blocks.Page {
     id: page
 
+    title: "Device"
+    subtitle: "Sample front end"
+    isSearchable: View.page === "DeviceSettings"
+
     readonly property var dims: Ui.dimensions.uiElementDimensions
-    readonly property bool hasTextColor: Catalog.revision >= 0
-        && Catalog.colors("Day/Text").some(entry => entry.group === "Day" && entry.key === "Text")
+    readonly property bool hasTextColor: ColorCatalog.revision >= 0
+        && ColorCatalog.entries("Day/Text").some(entry => entry.group === "Day" && entry.key === "Text")
     readonly property var missing: (hasTextColor ? [] : ["the color Day/Text"])
         .concat("Screen/width" in dims ? [] : ["the dimension Screen/width"])
     readonly property bool isSample: missing.length === 0
@@ -38,12 +42,12 @@ Item {
     Loader {
         id: device
 
-        x: Math.max(0, (page.width - width * scale) / 2)
+        x: Math.max(0, (parent.width - width * scale) / 2)
         active: page.isSample
         width: active ? page.dims["Screen/width"] : 0
         height: active ? page.dims["Screen/height"] : 0
         // A screen of the same size has no room for the toolbar.
-        scale: active ? Math.min(1, page.width / width, page.height / height) : 1
+        scale: active ? Math.min(1, parent.width / width, parent.height / height) : 1
         transformOrigin: Item.TopLeft
         clip: true
         sourceComponent: Rectangle {

@@ -1,8 +1,9 @@
 import QtQuick 2.15
+import "../theme"
 
 Text {
-    color: "#404850"
+    color: Theme.textSecondary
     elide: Text.ElideRight
-    font.pixelSize: 12
+    font.pixelSize: Theme.captionSize
     textFormat: Text.PlainText
 }

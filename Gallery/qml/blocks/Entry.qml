@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnis 1.0
+import "../theme"
 
 // An entry of a list or grid. A click copies the QML expression for its value.
 AbstractButton {
@@ -12,6 +13,6 @@ AbstractButton {
     onClicked: View.copy(expression)
 
     background: Rectangle {
-        color: parent.down ? "#d0dae4" : "transparent"
+        color: parent.down ? Theme.pressed : parent.hovered ? Theme.surface : "transparent"
     }
 }

@@ -1,14 +1,16 @@
 import QtQuick 2.15
+import "../theme"
 
 // Draws the designer's attention to a problem.
 Rectangle {
     property alias text: label.text
+    property bool isWarning: false
 
     visible: text !== ""
     width: Math.min(label.implicitWidth + 10, parent ? parent.width : label.implicitWidth + 10)
     height: label.implicitHeight + 4
     radius: 3
-    color: "#b3261e"
+    color: isWarning ? Theme.warning : Theme.error
 
     Text {
         id: label
@@ -16,8 +18,8 @@ Rectangle {
         anchors.centerIn: parent
         width: Math.min(implicitWidth, parent.width - 4)
         elide: Text.ElideRight
-        color: "white"
-        font.pixelSize: 11
+        color: Theme.textOnError
+        font.pixelSize: Theme.captionSize
         textFormat: Text.PlainText
     }
 }

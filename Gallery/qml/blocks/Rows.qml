@@ -24,11 +24,4 @@ ListView {
     Keys.onReturnPressed: if (currentItem) currentItem.clicked()
     Keys.onSpacePressed: if (currentItem) currentItem.clicked()
     ScrollBar.vertical: ScrollHandle {}
-
-    Caption {
-        parent: view
-        anchors.centerIn: parent
-        visible: view.count === 0
-        text: "Nothing to show."
-    }
 }

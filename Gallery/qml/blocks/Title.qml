@@ -1,9 +1,10 @@
 import QtQuick 2.15
+import "../theme"
 
 Text {
-    color: "#101820"
+    color: Theme.text
     elide: Text.ElideRight
     font.bold: true
-    font.pixelSize: 13
+    font.pixelSize: Theme.bodySize
     textFormat: Text.PlainText
 }

@@ -9,5 +9,5 @@ Image {
     height: size
     sourceSize: Qt.size(size, size)
     // The fragment makes Image read a file again that was replaced under the same path.
-    source: Ui.icons.getIconPathAsFileUrl(alias, View.context) + "#" + Catalog.revision
+    source: Ui.icons.getIconPathAsFileUrl(alias, View.context) + "#" + IconCatalog.revision
 }

@@ -20,6 +20,9 @@ public:
     /// The entries of a file, in its order; empty for an empty path.
     static QVariantList ofFile(const QString& path);
 
+    /// Those of the entries whose name contains the text; upper and lower case are equal.
+    static QVariantList matching(const QVariantList& entries, const QString& search);
+
     /// `group/key`.
     QString name() const;
 

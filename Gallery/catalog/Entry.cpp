@@ -1,6 +1,9 @@
-#include "Gallery/Entry.h"
+#include "Gallery/catalog/Entry.h"
 
 #include "Common/IniTools/IniFileManager.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace Gallery
 {
@@ -18,6 +21,15 @@ QVariantList Entry::ofFile(const QString& path)
             entries.append(QVariant::fromValue(Entry{group, key, file.getValueString(group, key, QString())}));
     }
     return entries;
+}
+
+QVariantList Entry::matching(const QVariantList& entries, const QString& search)
+{
+    QVariantList matches;
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(matches), [&](const QVariant& entry) {
+        return entry.value<Entry>().name().contains(search, Qt::CaseInsensitive);
+    });
+    return matches;
 }
 
 QString Entry::name() const

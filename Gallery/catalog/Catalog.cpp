@@ -1,0 +1,33 @@
+#include "Gallery/catalog/Catalog.h"
+
+#include <utility>
+
+namespace Gallery
+{
+
+Catalog::Catalog(const TarnisUi& tarnisUi)
+    : ui(tarnisUi)
+{
+}
+
+int Catalog::revision() const
+{
+    return currentRevision;
+}
+
+void Catalog::start()
+{
+    connect(&ui, &TarnisUi::answersChanged, this, &Catalog::follow);
+    follow();
+}
+
+void Catalog::follow()
+{
+    const QmlHost::Answers old = std::exchange(answers, ui.answers());
+    if (!update(old, answers))
+        return;
+    ++currentRevision;
+    Q_EMIT changed();
+}
+
+} // namespace Gallery

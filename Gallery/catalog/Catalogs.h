@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Gallery/catalog/ColorCatalog.h"
+#include "Gallery/catalog/DimensionCatalog.h"
+#include "Gallery/catalog/FontCatalog.h"
+#include "Gallery/catalog/IconCatalog.h"
+#include "Gallery/catalog/TextCatalog.h"
+
+namespace Gallery
+{
+
+/// One catalog of each kind.
+struct Catalogs {
+    /// `tarnisUi` must outlive the catalogs.
+    explicit Catalogs(const TarnisUi& tarnisUi)
+        : colors(tarnisUi)
+        , fonts(tarnisUi)
+        , dimensions(tarnisUi)
+        , icons(tarnisUi)
+        , texts(tarnisUi)
+    {
+    }
+
+    ColorCatalog colors;
+    FontCatalog fonts;
+    DimensionCatalog dimensions;
+    IconCatalog icons;
+    TextCatalog texts;
+};
+
+} // namespace Gallery
