@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <atomic>
 #include <cstdio>
 
 namespace ResourceCheck
@@ -10,22 +11,33 @@ namespace ResourceCheck
 namespace
 {
 
-void printFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+thread_local int silencers = 0;
+std::atomic<QtMessageHandler> previousHandler{nullptr};
+
+void passOn(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
+    const QtMessageHandler handler = previousHandler;
     if (type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    else if (silencers == 0 && handler != nullptr)
+        handler(type, context, message);
 }
 
 } // namespace
 
 MessageSilencer::MessageSilencer()
-    : previous(qInstallMessageHandler(printFatal))
 {
+    static const bool isInstalled = [] {
+        previousHandler = qInstallMessageHandler(passOn);
+        return true;
+    }();
+    Q_UNUSED(isInstalled)
+    ++silencers;
 }
 
 MessageSilencer::~MessageSilencer()
 {
-    qInstallMessageHandler(previous);
+    --silencers;
 }
 
 } // namespace ResourceCheck

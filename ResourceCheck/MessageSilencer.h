@@ -5,16 +5,15 @@
 namespace ResourceCheck
 {
 
-/// Drops the messages of Qt while it exists. Qt still prints the reason before it aborts the program.
+/// Drops the messages of Qt in this thread while it exists. Qt still prints the reason before it aborts the program.
+///
+/// The first object installs a message handler that passes on all other messages to the handler before it.
 class MessageSilencer
 {
 public:
     MessageSilencer();
     ~MessageSilencer();
     Q_DISABLE_COPY(MessageSilencer)
-
-private:
-    QtMessageHandler previous;
 };
 
 } // namespace ResourceCheck

@@ -1,7 +1,6 @@
-#include "ResourceCheck/Check.h"
+#include "ResourceCheck/Checker.h"
 #include "ResourceCheck/MessageSilencer.h"
 #include "ResourceCheck/Options.h"
-#include "ResourceCheck/Project.h"
 #include "ResourceCheck/Resolve.h"
 #include "ResourceCheck/output/JsonOutput.h"
 #include "ResourceCheck/output/SarifOutput.h"
@@ -40,20 +39,11 @@ QVector<Finding> findFaults(const Options& options)
 {
     QElapsedTimer timer;
     timer.start();
-    const Settings& settings = options.settings;
-    Project project{Resources(options.directory), {}, settings.contrastPairs, settings.kept};
-    if (!options.qmlDirectories.isEmpty()) {
-        project.qml.emplace(options.qmlDirectories,
-                            settings.handlerNames.isEmpty() ? QmlUses::defaultHandlers() : settings.handlerNames);
-    }
-    QVector<Finding> findings = check(project, settings.severities, [&timer](int done, int all) {
+    return Checker(options.directory, options.qmlDirectories, options.settings).findings([&timer](int done, int all) {
         constexpr int patience = 1000; // milliseconds
         if (isatty(STDERR_FILENO) != 0 && timer.hasExpired(patience))
             std::fprintf(stderr, "\rchecking: %d %%%s", 100 * done / all, done < all ? "" : "\r\033[K");
     });
-    for (Finding& finding : findings)
-        finding.severity = settings.warningsAreErrors ? Severity::Error : finding.severity;
-    return findings;
 }
 
 QByteArray output(const QVector<Finding>& findings, const QString& format)
