@@ -37,7 +37,7 @@ void addOptions(QCommandLineParser& parser)
         option("werror", "Treat warnings as errors."),
         option("format", "The output format: text (the default), json or sarif.", "FORMAT"),
         option("summary", "Print only the number of findings of each rule."),
-        option("list-rules", "Print all rules with their severities and reasons."),
+        option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
         option("explain", "Print the reason of a rule and how to silence it.", "RULE"),
     });
     parser.addHelpOption();
@@ -80,7 +80,7 @@ QString Options::readInformation(const QCommandLineParser& parser)
     else if (parser.isSet(QStringLiteral("version")))
         information = QStringLiteral("tarnis-resource-check %1\n").arg(QCoreApplication::applicationVersion()).toUtf8();
     else if (parser.isSet(QStringLiteral("list-rules")))
-        information = ruleList();
+        information = parser.value(QStringLiteral("format")) == QLatin1String("markdown") ? rulePage() : ruleList();
     else if (rule != nullptr)
         information = explanation(*rule);
     else if (parser.isSet(QStringLiteral("explain")))

@@ -20,11 +20,24 @@ QByteArray ruleList()
     return list;
 }
 
+QByteArray rulePage()
+{
+    QString page =
+        QStringLiteral("# Rules of the checker\n\n"
+                       "This page shows users of [the checker](tools.md#the-checker) what each rule finds and how "
+                       "to repair it.\n`./scripts/rules-page.sh` generates it from the rules in the program.\n");
+    for (const Rule& rule : allRules()) {
+        page += QStringLiteral("\n## %1\n\nSeverity: %2. %3\n\n%4\n")
+                    .arg(rule.name, severityName(rule.severity), rule.reason, rule.remedy);
+    }
+    return page.toUtf8();
+}
+
 QByteArray explanation(const Rule& rule)
 {
-    return QStringLiteral("%1 (%2)\n\n%3\n\nTo silence it: --rule %1=off, or in DIR/.tarnis-check.ini:\n"
+    return QStringLiteral("%1 (%2)\n\n%3\n\n%4\n\nTo silence it: --rule %1=off, or in DIR/.tarnis-check.ini:\n"
                           "[Rules]\n%1=off\n")
-        .arg(rule.name, severityName(rule.severity), rule.reason)
+        .arg(rule.name, severityName(rule.severity), rule.reason, rule.remedy)
         .toUtf8();
 }
 

@@ -10,7 +10,10 @@ struct Rule;
 /// One line for each rule with its name, severity and reason.
 QByteArray ruleList();
 
-/// The severity and the reason of the rule, and how to silence it.
+/// A Markdown page with a section for each rule.
+QByteArray rulePage();
+
+/// The severity, the reason and the remedy of the rule, and how to silence it.
 QByteArray explanation(const Rule& rule);
 
 } // namespace ResourceCheck

@@ -80,10 +80,14 @@ QVector<Rule> colorRules()
 {
     return {
         {QStringLiteral("color-invalid"), Severity::Error,
-         QStringLiteral("QML shows black, or nothing, in place of a value that is not a color."), checkColors},
+         QStringLiteral("QML shows black, or nothing, in place of a value that is not a color."), checkColors,
+         QStringLiteral(
+             "Write `#rrggbb`, `#aarrggbb` or an SVG color name. Instead of `rgba(0, 0, 0, 0.5)`, write `#80000000`.")},
         {QStringLiteral("color-contrast"), Severity::Warning,
          QStringLiteral("Many people cannot read text whose contrast is below the minimum of WCAG 2, level AA."),
-         checkContrast},
+         checkContrast,
+         QStringLiteral("Make one of the colors lighter or darker. Compared are `TextOnNAME` with `NAME`, any other "
+                        "text with `Background`, and the pairs of the option `contrast`. Disabled text is exempt.")},
     };
 }
 

@@ -96,14 +96,16 @@ QVector<Rule> dimensionRules()
     return {
         {QStringLiteral("dimension-missing"), Severity::Error,
          QStringLiteral("On a display without the key QML reads undefined and cannot lay out the element."),
-         checkKeysAreInAll},
+         checkKeysAreInAll, QStringLiteral("Files are not combined. Add the key to the file of each display.")},
         {QStringLiteral("dimension-not-integer"), Severity::Error,
-         QStringLiteral("A value that is not an integer counts as 0, and the element disappears."), checkIntegers},
+         QStringLiteral("A value that is not an integer counts as 0, and the element disappears."), checkIntegers,
+         QStringLiteral("Write a whole number of pixels, without a unit: `248`, not `248px`.")},
         {QStringLiteral("dimension-name"), Severity::Error,
          QStringLiteral("If one file name is not a display size, the service answers with an error for all of them."),
-         checkNames},
+         checkNames, QStringLiteral("Name the file after the display, for example `800x480.ini`.")},
         {QStringLiteral("display-duplicate"), Severity::Error,
-         QStringLiteral("Only one of two files for the same display size is ever used."), checkSizesDiffer},
+         QStringLiteral("Only one of two files for the same display size is ever used."), checkSizesDiffer,
+         QStringLiteral("Remove one of the two files, for example `800x480.INI` beside `800x480.ini`.")},
     };
 }
 

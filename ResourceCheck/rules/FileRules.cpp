@@ -58,10 +58,15 @@ QVector<Rule> fileRules()
 {
     return {
         {QStringLiteral("file-unreadable"), Severity::Error,
-         QStringLiteral("Every lookup in a file that cannot be read fails."), checkReadable},
+         QStringLiteral("Every lookup in a file that cannot be read fails."), checkReadable,
+         QStringLiteral(
+             "Add the file, or make it a regular file that everybody may read. A directory needs `colors.ini`, "
+             "`fonts.ini`, `icons/mapping.json` and one file for each display in `dimensions/`.")},
         {QStringLiteral("text-no-fallback"), Severity::Error,
          QStringLiteral("A text that is missing in one language is looked up in its fallback languages."),
-         checkFallbacks},
+         checkFallbacks,
+         QStringLiteral(
+             "Add the file, even with few texts: `pt_BR.json` needs `pt.json`, and every directory needs `en.json`.")},
     };
 }
 

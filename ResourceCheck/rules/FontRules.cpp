@@ -91,13 +91,16 @@ QVector<Rule> fontRules()
     return {
         {QStringLiteral("font-family-missing"), Severity::Error,
          QStringLiteral("Text in a font group without a family is drawn in the default font of the system."),
-         checkFamilyIsGiven},
+         checkFamilyIsGiven, QStringLiteral("Add `Family=NAME` to the group.")},
         {QStringLiteral("font-family-not-installed"), Severity::Warning,
-         QStringLiteral("Qt replaces a font family that is not installed by another one."), checkFamilyIsInstalled},
+         QStringLiteral("Qt replaces a font family that is not installed by another one."), checkFamilyIsInstalled,
+         QStringLiteral("Install the family on this machine and on the device, or use another one.")},
         {QStringLiteral("font-size-invalid"), Severity::Error,
-         QStringLiteral("Qt rejects a size that is not above 0, and the text keeps its default size."), checkSizes},
+         QStringLiteral("Qt rejects a size that is not above 0, and the text keeps its default size."), checkSizes,
+         QStringLiteral("Write a number of pixels above 0, without a unit: `18`, not `18px`.")},
         {QStringLiteral("font-too-small"), Severity::Warning,
-         QStringLiteral("Letters smaller than 9 pixels lose their shapes."), checkSizesAreLegible},
+         QStringLiteral("Letters smaller than 9 pixels lose their shapes."), checkSizesAreLegible,
+         QStringLiteral("Use at least 9 pixels.")},
     };
 }
 

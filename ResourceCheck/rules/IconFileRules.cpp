@@ -94,13 +94,18 @@ QVector<Rule> iconFileRules()
 {
     return {
         {QStringLiteral("icon-missing-file"), Severity::Error,
-         QStringLiteral("An icon whose file does not exist is not shown."), checkExistence},
+         QStringLiteral("An icon whose file does not exist is not shown."), checkExistence,
+         QStringLiteral("Add the file or correct the path, which is relative to `icons/`.")},
         {QStringLiteral("icon-outside"), Severity::Error,
-         QStringLiteral("Only files inside the icon directory are installed on the device with it."), checkInside},
+         QStringLiteral("Only files inside the icon directory are installed on the device with it."), checkInside,
+         QStringLiteral(
+             "Move the file into `icons/` and write its path without `..` and without `/` at its beginning.")},
         {QStringLiteral("icon-case"), Severity::Error,
-         QStringLiteral("File names are case-sensitive: the icon is not shown."), checkCase},
+         QStringLiteral("File names are case-sensitive: the icon is not shown."), checkCase,
+         QStringLiteral("Write the path in the upper and lower case of the file: `day/home.svg`, not `day/Home.svg`.")},
         {QStringLiteral("icon-unused-file"), Severity::Warning,
-         QStringLiteral("The file takes up space on the device and is never shown."), checkUnused},
+         QStringLiteral("The file takes up space on the device and is never shown."), checkUnused,
+         QStringLiteral("Add the file to a mapping table or remove it.")},
     };
 }
 

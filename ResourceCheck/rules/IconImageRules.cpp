@@ -62,9 +62,11 @@ QVector<Rule> iconImageRules()
     return {
         {QStringLiteral("icon-unreadable"), Severity::Error,
          QStringLiteral("An image that cannot be read, or is not what its name says, is not shown as intended."),
-         checkImages},
+         checkImages,
+         QStringLiteral("Save the image again, in the format that its suffix names. SVG and PNG are safe.")},
         {QStringLiteral("icon-same"), Severity::Warning,
-         QStringLiteral("The icon does not change when the context changes."), checkSame},
+         QStringLiteral("The icon does not change when the context changes."), checkSame,
+         QStringLiteral("Draw a different icon for the context, or remove the context from the alias.")},
     };
 }
 

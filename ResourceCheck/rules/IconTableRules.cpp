@@ -98,18 +98,23 @@ QVector<Rule> iconTableRules()
     return {
         {QStringLiteral("icon-json"), Severity::Error,
          QStringLiteral("A device skips everything that does not have the expected form and logs a warning."),
-         forEachTable(checkJson)},
+         forEachTable(checkJson),
+         QStringLiteral("The mapping table is a JSON object of aliases. Each alias is an object, and each of its "
+                        "contexts is the path of a file as a string.")},
         {QStringLiteral("icon-duplicate-alias"), Severity::Error,
          QStringLiteral("A device keeps only one of several aliases with the same name, not always the last."),
-         forEachTable(checkDuplicateAliases)},
+         forEachTable(checkDuplicateAliases), QStringLiteral("Rename or remove one of the aliases.")},
         {QStringLiteral("icon-duplicate-context"), Severity::Error,
          QStringLiteral("A device keeps only one of several contexts with the same name, not always the last."),
-         forEachTable(checkDuplicateContexts)},
+         forEachTable(checkDuplicateContexts), QStringLiteral("Rename or remove one of the contexts.")},
         {QStringLiteral("icon-no-default"), Severity::Error,
-         QStringLiteral("No icon is shown in a context that the alias does not list."), forEachTable(checkDefault)},
+         QStringLiteral("No icon is shown in a context that the alias does not list."), forEachTable(checkDefault),
+         QStringLiteral("Add `\"defaultContext\": \"PATH\"` to the alias.")},
         {QStringLiteral("icon-missing-context"), Severity::Warning,
          QStringLiteral("In the missing context the icon of the default context is shown among the others."),
-         forEachTable(checkMissingContexts)},
+         forEachTable(checkMissingContexts),
+         QStringLiteral("Add the context to the alias, if the icon must look different there. The rule reports an "
+                        "alias if more than half of all aliases have the context.")},
     };
 }
 

@@ -62,10 +62,14 @@ QVector<Rule> iniRules()
     return {
         {QStringLiteral("ini-syntax"), Severity::Error,
          QStringLiteral("A device skips a line that it does not understand and logs a warning at every start."),
-         forEachFile(checkSyntax)},
+         forEachFile(checkSyntax),
+         QStringLiteral(
+             "A line is blank, a comment, `[Group]` or `Key=value`. Names must be unique, and `]` closes a group.")},
         {QStringLiteral("ini-trap"), Severity::Warning,
          QStringLiteral("A value keeps its text exactly: comments and quotation marks inside it reach the display."),
-         forEachFile(checkTraps)},
+         forEachFile(checkTraps),
+         QStringLiteral(
+             "Write a comment on its own line. Quote a whole value or no part of it: not `#102030 ; gray`.")},
     };
 }
 

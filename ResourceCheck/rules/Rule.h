@@ -17,7 +17,8 @@ struct Project;
 /// do.
 using Report = std::function<void(const Place& place, const QString& message)>;
 
-/// Something that resources must not do. Each rule is one entry in the list of its subject below.
+/// Something that resources must not do. Each rule is one entry in the list of its subject below. `--list-rules`,
+/// `--explain` and docs/checker-rules.md are made of these entries.
 struct Rule {
     using Check = std::function<void(const Project& project, const Report& report)>;
 
@@ -25,6 +26,7 @@ struct Rule {
     Severity severity; // the default
     QString reason;    // one sentence: what a device does with such a fault
     Check check;
+    QString remedy{}; // how to repair it and, if that is not obvious, what exactly counts as a fault; in Markdown
 };
 
 /// All rules, in the order of the documentation.

@@ -60,16 +60,19 @@ QVector<Rule> textRules()
     return {
         {QStringLiteral("text-json"), Severity::Error,
          QStringLiteral("A device skips everything that does not have the expected form and logs a warning."),
-         forEachText(checkJson)},
+         forEachText(checkJson),
+         QStringLiteral("A language file is a JSON object of strings: `\"text://Button/Ok\": \"OK\"`.")},
         {QStringLiteral("text-duplicate"), Severity::Error,
          QStringLiteral("A device keeps only one of several texts with the same URL, not always the last."),
-         forEachText(checkDuplicates)},
+         forEachText(checkDuplicates), QStringLiteral("Rename or remove one of the texts.")},
         {QStringLiteral("text-empty"), Severity::Warning,
          QStringLiteral("An empty text is shown as it is, without fallback to another language."),
-         forEachText(checkEmpty)},
+         forEachText(checkEmpty),
+         QStringLiteral("Enter a text, or remove the line so that the fallback language is used.")},
         {QStringLiteral("text-language-name"), Severity::Error,
          QStringLiteral("A device opens only the files that are named LANGUAGE.json, with the name of a locale."),
-         forEachText(checkName)},
+         forEachText(checkName),
+         QStringLiteral("Name the file after a locale, for example `de.json`, `de_AT.json` or `zh_Hans.json`.")},
     };
 }
 

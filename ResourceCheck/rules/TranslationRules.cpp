@@ -129,12 +129,15 @@ QVector<Rule> translationRules()
     return {
         {QStringLiteral("text-missing"), Severity::Warning,
          QStringLiteral("A text that neither the language nor its fallback language has is shown in English."),
-         forEachTranslation(checkMissing)},
+         forEachTranslation(checkMissing), QStringLiteral("Translate the text in the file of the language.")},
         {QStringLiteral("text-extra"), Severity::Warning, QStringLiteral("Languages without the text show its URL."),
-         forEachTranslation(checkExtra)},
+         forEachTranslation(checkExtra),
+         QStringLiteral("Add the text to `en.json`, or remove it from the other files.")},
         {QStringLiteral("text-placeholder"), Severity::Error,
          QStringLiteral("The text is shown without a value, or with a placeholder in place of a value."),
-         forEachTranslation(checkPlaceholders)},
+         forEachTranslation(checkPlaceholders),
+         QStringLiteral("Use the placeholders of the English text. Each can occur in any place and more than once, and "
+                        "`%L1` is the same as `%1`.")},
     };
 }
 

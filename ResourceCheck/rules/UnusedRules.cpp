@@ -79,18 +79,23 @@ QVector<Rule> unusedRules()
 {
     return {
         {QStringLiteral("unused-color"), Severity::Warning,
-         QStringLiteral("A color that is never shown is read at every start."), unused(ResourceKind::Color)},
+         QStringLiteral("A color that is never shown is read at every start."), unused(ResourceKind::Color),
+         QStringLiteral("Remove the color. If QML makes its name at run time, keep it with the option `keep`.")},
         {QStringLiteral("unused-font"), Severity::Warning,
-         QStringLiteral("A font size that is never shown is read at every start."), unused(ResourceKind::FontSize)},
+         QStringLiteral("A font size that is never shown is read at every start."), unused(ResourceKind::FontSize),
+         QStringLiteral("Remove the size. If QML makes its name at run time, keep it with the option `keep`.")},
         {QStringLiteral("unused-dimension"), Severity::Warning,
          QStringLiteral("A dimension that no element uses is read for each display and kept in memory."),
-         unused(ResourceKind::Dimension)},
+         unused(ResourceKind::Dimension),
+         QStringLiteral("Remove the dimension. If QML makes its name at run time, keep it with the option `keep`.")},
         {QStringLiteral("unused-icon"), Severity::Warning,
          QStringLiteral("An icon that is never shown takes up space, and its alias is read at every start."),
-         unused(ResourceKind::Icon)},
+         unused(ResourceKind::Icon),
+         QStringLiteral("Remove the alias. If QML makes its name at run time, keep it with the option `keep`.")},
         {QStringLiteral("unused-text"), Severity::Warning,
          QStringLiteral("A text that is never shown is translated in vain and kept in memory."),
-         unused(ResourceKind::Text)},
+         unused(ResourceKind::Text),
+         QStringLiteral("Remove the text. If QML makes its name at run time, keep it with the option `keep`.")},
     };
 }
 
