@@ -8,11 +8,12 @@ namespace ResourceCheck
 
 bool isLocaleName(const QString& name)
 {
-    static const QRegularExpression script(QStringLiteral("(?<=[a-z])_[A-Z][a-z]{3}(?=_)"));
+    static const QRegularExpression script(QStringLiteral("(?<=[a-z])_[A-Z][a-z]{3}(?=_|$)"));
     const QLocale locale(name);
     const QString known = locale.name();
-    const bool isLanguage = known.section(QLatin1Char('_'), 0, 0) == name;
-    return locale.language() != QLocale::C && (isLanguage || known == QString(name).remove(script));
+    const QString plain = QString(name).remove(script);
+    const bool isLanguage = known.section(QLatin1Char('_'), 0, 0) == plain;
+    return locale.language() != QLocale::C && (isLanguage || known == plain);
 }
 
 } // namespace ResourceCheck

@@ -5,7 +5,7 @@
 namespace ResourceCheck
 {
 
-/// Whether Qt knows a locale by this name: `de`, `de_AT` or `zh_Hans_CN`. Any script is accepted, because Qt does not
+/// Whether Qt knows a locale by this name: `de`, `de_AT`, `zh_Hans` or `zh_Hans_CN`. Any script is accepted, because Qt does not
 /// list the codes of the scripts that it knows.
 bool isLocaleName(const QString& name);
 

@@ -1,0 +1,2 @@
+rm fonts.ini
+ln -s nowhere dimensions/1024x600.ini

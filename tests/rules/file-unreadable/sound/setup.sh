@@ -1,0 +1,1 @@
+ln -s 800x480.ini dimensions/1024x600.ini

@@ -1,0 +1,1 @@
+rm texts/en.json
