@@ -2,6 +2,10 @@
 #include "ResourceCheck/rules/Rule.h"
 #include "ResourceFormat/Contrast.h"
 
+#include <QSet>
+
+#include <algorithm>
+
 namespace ResourceCheck
 {
 
@@ -74,6 +78,34 @@ void checkContrast(const Project& project, const Report& report)
     }
 }
 
+// Groups are themes of each other if they share more than half of their keys.
+bool areThemes(const QStringList& keys, const QStringList& others)
+{
+    const auto isShared = [&others](const QString& key) { return others.contains(key); };
+    const auto shared = std::count_if(keys.begin(), keys.end(), isShared);
+    return 2 * shared > qMax(keys.size(), others.size());
+}
+
+void checkThemes(const Project& project, const Report& report)
+{
+    const IniFile& file = project.resources.colors;
+    const QStringList groups = file.content().groups();
+    QSet<QPair<QString, QString>> reported;
+    for (const QString& owner : groups) {
+        const QStringList keys = file.content().keys(owner);
+        for (const QString& group : groups) {
+            const QStringList others = file.content().keys(group);
+            for (const QString& key : areThemes(keys, others) ? keys : QStringList()) {
+                if (others.contains(key) || reported.contains({group, key}))
+                    continue;
+                reported.insert({group, key});
+                report(file.place(file.content().find(group, others.constFirst())->line),
+                       QStringLiteral("%1/%2 is missing, but %3/%2 exists; add it").arg(group, key, owner));
+            }
+        }
+    }
+}
+
 } // namespace
 
 QVector<Rule> colorRules()
@@ -88,6 +120,11 @@ QVector<Rule> colorRules()
          checkContrast,
          QStringLiteral("Make one of the colors lighter or darker. Compared are `TextOnNAME` with `NAME`, any other "
                         "text with `Background`, and the pairs of the option `contrast`. Disabled text is exempt.")},
+        {QStringLiteral("color-missing"), Severity::Error,
+         QStringLiteral("In a theme without the color the lookup returns an empty text, which QML shows as black."),
+         checkThemes,
+         QStringLiteral("Add the color to the group. Groups that share more than half of their keys count as themes "
+                        "of each other.")},
     };
 }
 

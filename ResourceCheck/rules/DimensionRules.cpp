@@ -89,6 +89,22 @@ void checkSizesDiffer(const Project& project, const Report& report)
     }
 }
 
+void checkNamesAreUnique(const Project& project, const Report& report)
+{
+    for (const DimensionFile& dimension : project.resources.dimensions) {
+        QHash<QString, IniEntry> entries;
+        for (const IniEntry& entry : dimension.file.effectiveEntries()) {
+            const QString name = entry.group + QLatin1Char('/') + entry.key;
+            if (entries.contains(name)) {
+                report(dimension.file.place(entry.line),
+                       QStringLiteral("\"%1\" in group \"%2\" has the name %3, as line %4 has; rename one of them")
+                           .arg(entry.key, entry.group, name, QString::number(entries.value(name).line)));
+            }
+            entries.insert(name, entry);
+        }
+    }
+}
+
 } // namespace
 
 QVector<Rule> dimensionRules()
@@ -100,6 +116,10 @@ QVector<Rule> dimensionRules()
         {QStringLiteral("dimension-not-integer"), Severity::Error,
          QStringLiteral("A value that is not an integer counts as 0, and the element disappears."), checkIntegers,
          QStringLiteral("Write a whole number of pixels, without a unit: `248`, not `248px`.")},
+        {QStringLiteral("dimension-ambiguous"), Severity::Error,
+         QStringLiteral("QML finds a dimension as `Group/key`, so one of two equal names hides the other."),
+         checkNamesAreUnique,
+         QStringLiteral("Write no `/` in groups and keys: `b/c` in `[a]` and `c` in `[a/b]` are both `a/b/c`.")},
         {QStringLiteral("dimension-name"), Severity::Error,
          QStringLiteral("If one file name is not a display size, the service answers with an error for all of them."),
          checkNames, QStringLiteral("Name the file after the display, for example `800x480.ini`.")},

@@ -84,6 +84,17 @@ void checkSizesAreLegible(const Project& project, const Report& report)
     }
 }
 
+void checkGroupsHaveSizes(const Project& project, const Report& report)
+{
+    const IniFile& file = project.resources.fonts;
+    for (const QString& group : file.content().groups()) {
+        if (file.content().keys(group) == QStringList(TarnisFontHandler::familyKey)) {
+            report(file.place(file.content().find(group, TarnisFontHandler::familyKey)->line),
+                   QStringLiteral("the font group \"%1\" has no size; add one, such as Normal=18").arg(group));
+        }
+    }
+}
+
 } // namespace
 
 QVector<Rule> fontRules()
@@ -95,6 +106,9 @@ QVector<Rule> fontRules()
         {QStringLiteral("font-family-not-installed"), Severity::Warning,
          QStringLiteral("Qt replaces a font family that is not installed by another one."), checkFamilyIsInstalled,
          QStringLiteral("Install the family on this machine and on the device, or use another one.")},
+        {QStringLiteral("font-size-missing"), Severity::Error,
+         QStringLiteral("Every lookup of a size in a font group without sizes fails."), checkGroupsHaveSizes,
+         QStringLiteral("Add a size in pixels, for example `Normal=18`, or remove the group.")},
         {QStringLiteral("font-size-invalid"), Severity::Error,
          QStringLiteral("Qt rejects a size that is not above 0, and the text keeps its default size."), checkSizes,
          QStringLiteral("Write a number of pixels above 0, without a unit: `18`, not `18px`.")},

@@ -40,6 +40,12 @@ void checkEmpty(const TextFile& text, const Report& report)
     }
 }
 
+void checkContent(const TextFile& text, const Report& report)
+{
+    if (text.language == ResourceFormat::Language::secondFallback() && text.file.isSound() && text.urls().isEmpty())
+        report({text.file.path()}, QStringLiteral("the file contains no texts; add the texts of the front end"));
+}
+
 void checkName(const TextFile& text, const Report& report)
 {
     const QString path = text.file.path();
@@ -69,6 +75,9 @@ QVector<Rule> textRules()
          QStringLiteral("An empty text is shown as it is, without fallback to another language."),
          forEachText(checkEmpty),
          QStringLiteral("Enter a text, or remove the line so that the fallback language is used.")},
+        {QStringLiteral("text-none"), Severity::Error,
+         QStringLiteral("The texts of English are those that QML can look up: without them there are none."),
+         forEachText(checkContent), QStringLiteral("Add the texts of the front end to `en.json`.")},
         {QStringLiteral("text-language-name"), Severity::Error,
          QStringLiteral("A device opens only the files that are named LANGUAGE.json, with the name of a locale."),
          forEachText(checkName),
