@@ -38,6 +38,7 @@ void addOptions(QCommandLineParser& parser)
         option("format", "The output format: text (the default), json or sarif.", "FORMAT"),
         option("summary", "Print only the number of findings of each rule."),
         option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
+        option("list-records", "Print which rule announces which log record of a device, as a Markdown table."),
         option("explain", "Print the reason of a rule and how to silence it.", "RULE"),
     });
     parser.addHelpOption();
@@ -81,6 +82,8 @@ QString Options::readInformation(const QCommandLineParser& parser)
         information = QStringLiteral("tarnis-resource-check %1\n").arg(QCoreApplication::applicationVersion()).toUtf8();
     else if (parser.isSet(QStringLiteral("list-rules")))
         information = parser.value(QStringLiteral("format")) == QLatin1String("markdown") ? rulePage() : ruleList();
+    else if (parser.isSet(QStringLiteral("list-records")))
+        information = recordTable();
     else if (rule != nullptr)
         information = explanation(*rule);
     else if (parser.isSet(QStringLiteral("explain")))

@@ -1,13 +1,21 @@
 #!/usr/bin/env bash
-# Writes docs/checker-rules.md, the page of the checker's rules: rules-page.sh CHECKER [--check]
-# With --check it only fails if the page does not show the current rules.
+# Writes what the documentation says of the checker's rules: the page docs/checker-rules.md, and the table of log records
+# in docs/resource-formats.md: rules-page.sh CHECKER [--check]
+# With --check it only fails if they do not show the current rules.
 set -euo pipefail
-[ "${1:-}" != --help ] || { sed -n '2,/^[^#]/s/^# \?//p' "$0"; exit; }
+. "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
-page=docs/checker-rules.md
-if [ "${2:-}" != --check ]; then
-  "$1" --list-rules --format markdown >"$page"
-elif ! "$1" --list-rules --format markdown | diff "$page" -; then
-  echo "$page does not show the current rules; run ./scripts/rules-page.sh build/dev/ResourceCheck/tarnis-resource-check" >&2
-  exit 1
-fi
+checker=$1
+create_work_folder
+"$checker" --list-rules --format markdown >"$work/checker-rules.md"
+{ echo '<!-- records -->'; "$checker" --list-records; echo '<!-- end of records -->'; } >"$work/records"
+sed -e "/^<!-- records -->/r $work/records" -e '/^<!-- records -->/,/^<!-- end of records -->/d' \
+  docs/resource-formats.md >"$work/resource-formats.md"
+
+for page in checker-rules.md resource-formats.md; do
+  if [ "${2:-}" != --check ]; then
+    cp "$work/$page" "docs/$page"
+  elif ! diff "docs/$page" "$work/$page"; then
+    fail "docs/$page does not show the current rules; run ./scripts/rules-page.sh build/dev/ResourceCheck/tarnis-resource-check"
+  fi
+done

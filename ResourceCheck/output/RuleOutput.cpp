@@ -1,5 +1,6 @@
 #include "ResourceCheck/output/RuleOutput.h"
 
+#include "ResourceCheck/rules/Record.h"
 #include "ResourceCheck/rules/Rule.h"
 
 namespace ResourceCheck
@@ -31,6 +32,20 @@ QByteArray rulePage()
                     .arg(rule.name, severityName(rule.severity), rule.reason, rule.remedy);
     }
     return page.toUtf8();
+}
+
+QByteArray recordTable()
+{
+    QString table = QStringLiteral("| Record | Written by | Announced by |\n|---|---|---|\n");
+    for (const Record& record : allRecords()) {
+        QStringList links;
+        for (const QString& rule : record.rules)
+            links.append(QStringLiteral("[`%1`](checker-rules.md#%1)").arg(rule));
+        const QString announcement =
+            links.isEmpty() ? QStringLiteral("no rule: it %1").arg(record.reason) : links.join(QStringLiteral(", "));
+        table += QStringLiteral("| `%1` | %2 | %3 |\n").arg(record.text, record.origin, announcement);
+    }
+    return table.toUtf8();
 }
 
 QByteArray explanation(const Rule& rule)
