@@ -73,6 +73,25 @@ void Answers::setTexts(const QString& resourceDirectory)
     textFolder = {directory.textFolder(), Fingerprint::of(paths)};
 }
 
+void Answers::renew(bool includesIconFiles)
+{
+    setColorFile(colorFile.value);
+    setFontFile(fontFile.value);
+    setDisplaySizes(displaySizes.value);
+    setIcons(icons.value.first, icons.value.second, includesIconFiles);
+    if (textFolder.isAnswered())
+        setTexts(QFileInfo(textFolder.value).path());
+}
+
+QString Answers::directory() const
+{
+    for (const QString& path : {colorFile.value, fontFile.value, icons.value.first}) {
+        if (!path.isEmpty())
+            return QFileInfo(path).path();
+    }
+    return QString();
+}
+
 bool Answers::isAnyAnswered() const
 {
     return colorFile.isAnswered() || fontFile.isAnswered() || displaySizes.isAnswered() || icons.isAnswered()

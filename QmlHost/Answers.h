@@ -53,6 +53,12 @@ struct Answers {
     /// Answers with the texts of the resource directory, if it has any.
     void setTexts(const QString& resourceDirectory);
 
+    /// Records the state of the files of all answered parts again.
+    void renew(bool includesIconFiles);
+
+    /// The resource directory that the answered parts are in; empty if none of them tells.
+    QString directory() const;
+
     /// Whether there is anything for QML to look up.
     bool isAnyAnswered() const;
 

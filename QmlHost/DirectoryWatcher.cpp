@@ -1,7 +1,6 @@
 #include "QmlHost/DirectoryWatcher.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
 #include <QSocketNotifier>
 
@@ -24,7 +23,8 @@ namespace QmlHost
 
 DirectoryWatcher::DirectoryWatcher(QObject* parent)
     : QObject(parent)
-    , delay(this) // as a child it moves along to another thread
+    , mounts(QStringLiteral("/proc/self/mountinfo"), this)
+    , delay(this) // as children they move along to another thread
 {
     delay.setSingleShot(true);
     delay.setInterval(delayMilliseconds);
@@ -41,6 +41,7 @@ DirectoryWatcher::~DirectoryWatcher()
 void DirectoryWatcher::watchResources(const ResourceFormat::Directory& directory)
 {
     clear();
+    watchMounts();
     QStringList files{directory.colorFile(), directory.fontFile(), directory.mappingTable()};
     for (const QFileInfo& file : directory.dimensionFiles() + directory.languageFiles())
         files.append(file.filePath());
@@ -54,6 +55,22 @@ void DirectoryWatcher::watchResources(const ResourceFormat::Directory& directory
         folders.append(iconFolders.next());
     for (const QString& folder : qAsConst(folders))
         watch(folder, everyEntry);
+}
+
+// The file does not become readable, but has an exceptional condition, when its content changes. A file that is opened
+// later reports later changes only, so it stays open.
+void DirectoryWatcher::watchMounts()
+{
+    if (mounts.isOpen() || !mounts.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    mountNotifier = std::make_unique<QSocketNotifier>(mounts.handle(), QSocketNotifier::Exception);
+    connect(mountNotifier.get(), &QSocketNotifier::activated, this, &DirectoryWatcher::noteChange);
+}
+
+void DirectoryWatcher::noteChange()
+{
+    if (!delay.isActive())
+        delay.start();
 }
 
 void DirectoryWatcher::clear()
@@ -117,8 +134,8 @@ void DirectoryWatcher::readEvents()
             const QSet<QByteArray> wanted = names.value(event->wd);
             const QByteArray name = event->len > 0 ? QByteArray(event->name) : QByteArray();
             const bool isOverflow = (event->mask & IN_Q_OVERFLOW) != 0;
-            if ((isOverflow || wanted.contains(name) || wanted.contains(everyEntry)) && !delay.isActive())
-                delay.start();
+            if (isOverflow || wanted.contains(name) || wanted.contains(everyEntry))
+                noteChange();
         }
     }
 }

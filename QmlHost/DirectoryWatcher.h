@@ -2,6 +2,7 @@
 
 #include "ResourceFormat/Directory.h"
 
+#include <QFile>
 #include <QHash>
 #include <QObject>
 #include <QSet>
@@ -17,6 +18,9 @@ namespace QmlHost
 
 /// Reports changes of files: files that are written in place, replaced or removed, and directories and symbolic links
 /// on the way to them that are replaced. It watches directories only, because editors may replace a file to save it.
+///
+/// The kernel reports no mounts below a watched directory. Therefore every mount and unmount of the system, wherever it
+/// is, counts as a change.
 class DirectoryWatcher : public QObject
 {
     Q_OBJECT
@@ -37,6 +41,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void watchMounts();
+    void noteChange();
     void clear();
     void watchPath(const QString& path);
     void watch(const QString& directory, const QByteArray& name);
@@ -46,6 +52,8 @@ private:
     std::unique_ptr<QSocketNotifier> notifier;
     QHash<int, QSet<QByteArray>> names; // what matters in each watched directory; the empty name is every entry
     QString reason;
+    QFile mounts;
+    std::unique_ptr<QSocketNotifier> mountNotifier;
     QTimer delay;
 };
 

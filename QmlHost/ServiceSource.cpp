@@ -1,100 +1,33 @@
 #include "QmlHost/ServiceSource.h"
 
-#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisDeviceUiResourcesDBusConnector.h"
-#include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
+#include "QmlHost/Interview.h"
 #include "TarnisLibrary/TarnisDefinitions.h"
 
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
-#include <QFileInfo>
+#include <QElapsedTimer>
 
-#include <functional>
+#include <limits>
 
 namespace
 {
 
 constexpr int longestInterval = 30000;
+constexpr int silenceMilliseconds = 5000; // as long as the library waits for an answer
+constexpr int renewalMilliseconds = 100;
+constexpr int withoutTimeLimit = std::numeric_limits<int>::max();
 
-QString busName()
+// The bus policy allows no other methods than those of the two interfaces, so one of them serves as the first call.
+QDBusMessage firstCall()
 {
-    return QStringLiteral("Module.") + TarnisDefinitions::getModuleName();
+    const QString object = QLatin1Char('/') + TarnisDefinitions::getModuleName() + QLatin1Char('/')
+        + TarnisDefinitions::getObjectNameDeviceUiResources();
+    return QDBusMessage::createMethodCall(QmlHost::Interview::busName(), object,
+                                          TarnisDefinitions::getInterfaceNameDeviceUiResources(),
+                                          QStringLiteral("getColorIniFilePath"));
 }
-
-// The five questions to the service and its answers.
-class Interview
-{
-public:
-    Interview()
-    {
-        const auto noteFailure = [this] { isReached = false; };
-        QObject::connect(&resources, &DBusConnectorBase::dBusConnectionError, noteFailure);
-        QObject::connect(&iconProvider, &DBusConnectorBase::dBusConnectionError, noteFailure);
-    }
-
-    // After a call without a reply the rest is not asked: each call may block for seconds.
-    void run(const std::function<bool()>& isStopRequested)
-    {
-        const std::function<void()> questions[] = {
-            [this] { colorFile = resources.getColorIniFilePath(); },
-            [this] { fontFile = resources.getFontIniFilePath(); },
-            [this] { displaySizes = resources.getSupportedDisplaySizes(); },
-            [this] { iconFolder = iconProvider.getIconResourcesBasePath(); },
-            [this] { mappingTable = iconProvider.getIconResourcesMappingTable(QString()); },
-        };
-        for (const auto& question : questions) {
-            if (isReached && !isStopRequested())
-                question();
-        }
-    }
-
-    // Where the files are; empty if there is no answer.
-    QString directory() const { return colorFile.isEmpty() ? QString() : QFileInfo(colorFile).path(); }
-
-    QmlHost::Answers answers(bool includesIconFiles) const
-    {
-        QmlHost::Answers answers;
-        answers.setColorFile(colorFile);
-        answers.setFontFile(fontFile);
-        answers.setDisplaySizes(displaySizes);
-        answers.setIcons(iconFolder, mappingTable, includesIconFiles);
-        if (!colorFile.isEmpty())
-            answers.setTexts(directory());
-        return answers;
-    }
-
-    QString problem() const
-    {
-        if (!isReached)
-            return QStringLiteral("The service %1 does not answer; it is asked again until it does.").arg(busName());
-        const QPair<bool, QString> parts[] = {
-            {colorFile.isEmpty(), QStringLiteral("the color file")},
-            {fontFile.isEmpty(), QStringLiteral("the font file")},
-            {displaySizes.isEmpty(), QStringLiteral("the display sizes")},
-            {iconFolder.isEmpty(), QStringLiteral("the icon directory")},
-            {mappingTable.isEmpty(), QStringLiteral("the icon mapping table")},
-        };
-        QStringList missing;
-        for (const auto& [isMissing, name] : parts) {
-            if (isMissing)
-                missing.append(name);
-        }
-        if (missing.isEmpty())
-            return QString();
-        return QStringLiteral("The service %1 does not provide %2; the log contains the reasons.")
-            .arg(busName(), missing.join(QStringLiteral(", ")));
-    }
-
-private:
-    const TarnisDeviceUiResourcesDBusConnector resources;
-    const TarnisIconProviderDBusConnector iconProvider;
-    bool isReached = true;
-    QString colorFile;
-    QString fontFile;
-    QList<QPair<QSize, QString>> displaySizes;
-    QString iconFolder;
-    QString mappingTable;
-};
 
 } // namespace
 
@@ -104,10 +37,17 @@ namespace QmlHost
 ServiceSource::ServiceSource(bool followsFiles)
     : areFilesFollowed(followsFiles)
     , watcher(this) // as children they move to the worker thread
+    , silence(this)
+    , renewal(this)
     , repetition(this)
 {
-    connect(&watcher, &DirectoryWatcher::changed, this, &ServiceSource::ask);
-    repetition.setSingleShot(true);
+    for (QTimer* timer : {&silence, &renewal, &repetition})
+        timer->setSingleShot(true);
+    silence.setInterval(silenceMilliseconds);
+    renewal.setInterval(renewalMilliseconds);
+    connect(&watcher, &DirectoryWatcher::changed, this, &ServiceSource::onFilesChanged);
+    connect(&silence, &QTimer::timeout, this, &ServiceSource::reportSilence);
+    connect(&renewal, &QTimer::timeout, this, &ServiceSource::renewAnswers);
     connect(&repetition, &QTimer::timeout, this, &ServiceSource::ask);
 }
 
@@ -119,7 +59,8 @@ void ServiceSource::start()
     busFailure = bus.isConnected()
         ? QStringLiteral("The connection to the D-Bus is lost")
         : QStringLiteral("There is no connection to the D-Bus (%1)").arg(bus.lastError().message());
-    const auto* ownerWatcher = new QDBusServiceWatcher(busName(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    const auto* ownerWatcher =
+        new QDBusServiceWatcher(Interview::busName(), bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(ownerWatcher, &QDBusServiceWatcher::serviceOwnerChanged, this, &ServiceSource::onOwnerChanged);
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
                 QStringLiteral("Disconnected"), this, SLOT(reportBusFailure()));
@@ -128,29 +69,84 @@ void ServiceSource::start()
 
 void ServiceSource::ask()
 {
+    if (call != nullptr || !mayAsk())
+        return;
+    call = new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(firstCall(), withoutTimeLimit), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, &ServiceSource::interview);
+    silence.start();
+}
+
+bool ServiceSource::mayAsk()
+{
     if (isStopRequested())
-        return;
-    if (!QDBusConnection::systemBus().isConnected()) {
+        return false;
+    const bool isConnected = QDBusConnection::systemBus().isConnected();
+    if (!isConnected)
         reportBusFailure();
+    return isConnected;
+}
+
+void ServiceSource::interview()
+{
+    forgetCall();
+    if (!mayAsk())
         return;
-    }
     watch(watchedDirectory); // before the reading, so that no change in between is missed
+    QElapsedTimer duration;
+    duration.start();
     Interview interview;
     interview.run(&Source::isStopRequested);
     if (isStopRequested())
         return;
     const QString problem = interview.problem();
+    // A service that hangs between two questions is asked again soon.
+    if (problem.isEmpty() || duration.hasExpired(silenceMilliseconds / 2))
+        nextInterval = firstInterval;
     if (problem.isEmpty()) {
         repetition.stop();
-        nextInterval = firstInterval;
     } else {
         repetition.start(nextInterval);
         nextInterval = qMin(2 * nextInterval, longestInterval);
     }
-    const QString directory = interview.directory();
+    const Answers answers = interview.answers(areFilesFollowed);
+    const QString directory = answers.directory();
     if (!directory.isEmpty() && directory != watchedDirectory)
         watch(directory);
-    Q_EMIT answered(interview.answers(areFilesFollowed), problem);
+    report(answers, problem);
+}
+
+void ServiceSource::reportSilence()
+{
+    qWarning("%s", qPrintable(Interview::silence()));
+    report(Answers(), Interview::silence());
+}
+
+void ServiceSource::renewAnswers()
+{
+    watch(watchedDirectory);
+    lastAnswers.renew(areFilesFollowed);
+    report(lastAnswers, lastProblem);
+}
+
+void ServiceSource::report(const Answers& answers, const QString& problem)
+{
+    lastProblem = problem;
+    Answers completed = answers;
+    completed.complete(lastAnswers);
+    lastAnswers = completed;
+    Q_EMIT answered(answers, problem);
+}
+
+// It may be the sender of the signal that is handled, so it is deleted later.
+void ServiceSource::forgetCall()
+{
+    silence.stop();
+    renewal.stop();
+    if (call == nullptr)
+        return;
+    call->disconnect(this);
+    call->deleteLater();
+    call = nullptr;
 }
 
 void ServiceSource::watch(const QString& directory)
@@ -161,20 +157,28 @@ void ServiceSource::watch(const QString& directory)
     watcher.watchResources(ResourceFormat::Directory(directory));
 }
 
+void ServiceSource::onFilesChanged()
+{
+    renewal.start();
+    ask();
+}
+
 void ServiceSource::onOwnerChanged(const QString& /*name*/, const QString& /*oldOwner*/, const QString& newOwner)
 {
     if (newOwner.isEmpty())
         return;
     nextInterval = firstInterval;
+    forgetCall();
     ask();
 }
 
 // Qt connects a process to each bus once.
 void ServiceSource::reportBusFailure()
 {
+    forgetCall();
     repetition.stop();
     const QString advice = QStringLiteral(", and this process cannot reconnect to it; restart the process.");
-    Q_EMIT answered(Answers(), busFailure + advice);
+    report(Answers(), busFailure + advice);
 }
 
 } // namespace QmlHost

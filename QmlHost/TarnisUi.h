@@ -22,8 +22,8 @@ class Resources;
 ///     QQmlApplicationEngine engine(QUrl("qrc:/main.qml"));
 ///
 /// Use it from the thread of the QGuiApplication, which must exist before and end after it. No function waits for the
-/// service except the destructor and waitUntilReady(): a worker thread asks for the resources and follows their
-/// changes. The library's records of failed questions come from that thread. The files are read on the caller's thread.
+/// service except waitUntilReady(): a worker thread asks for the resources and follows their changes. The library's
+/// records of failed questions come from that thread. The files are read on the caller's thread.
 ///
 /// Delete the QML engines first. An engine that outlives this object keeps its handlers, which no longer change.
 class TarnisUi : public QObject
@@ -35,8 +35,9 @@ public:
     enum class Files { Ignored, Followed };
 
     /// The Tarnis module on the system bus, whenever it is there: it is asked when it appears, restarts or changes its
-    /// owner. A failed question is repeated after 0.5 s, and then at intervals that double up to 30 s. If
-    /// the files are followed, it is also asked when one of them changes; a device does not need that.
+    /// owner. A failed question is repeated after 0.5 s, and then at intervals that double up to 30 s. A service that
+    /// hangs is asked as soon as it handles calls again. If the files are followed, it is also asked when one of them
+    /// changes, and changes are shown while it hangs; a device does not need that.
     static std::unique_ptr<QmlHost::Source> service(Files files = Files::Ignored);
 
     /// A resource directory, without a bus, read by the rules of the service. Its changes are followed.
@@ -46,7 +47,8 @@ public:
     /// caller keeps and which must outlive this object and the QML engines.
     explicit TarnisUi(std::unique_ptr<QmlHost::Source> source = service(), TextManager* textManager = nullptr);
 
-    /// Waits for the question in progress, if there is one: 5 s at most if the service hangs. Asks no further one.
+    /// Waits for the question in progress, if there is one, and asks no further one. This takes at most 5 s, and only
+    /// if the service has begun to hang between two questions: before the first one, the worker does not wait.
     ~TarnisUi() override;
 
     /// Serves every QML engine of the process that asks for `Ui` from now on. Each gets its own `Ui` and handlers.
