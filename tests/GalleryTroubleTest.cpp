@@ -63,6 +63,24 @@ private Q_SLOTS:
         QCOMPARE(gallery.session.ui.problem(), QString());
     }
 
+    void mountedDirectoryIsNoticed()
+    {
+        const QString obstacle = resources->becomeMountPoint();
+        if (!obstacle.isNull())
+            QSKIP(qPrintable(obstacle));
+        GalleryWindow gallery(TarnisUi::directory(resources->path));
+        gallery.session.view.setPage("Colors");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("#1f2a37"), 10000);
+        resources->unmount();
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains(resources->path + "/colors.ini"), 10000);
+        QVERIFY2(gallery.text().contains("#1f2a37"), qPrintable(gallery.text()));
+        resources->shell("sed -i s/#1f2a37/#fe01fd/ ../stored/colors.ini");
+        resources->mount();
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("#fe01fd"), 10000);
+        QCOMPARE(gallery.session.ui.problem(), QString());
+        resources->unmount();
+    }
+
     void eachFileIsJudgedByItself_data() { addRows({"isService", "page", "kept", "file", "content", "message"}); }
 
     void eachFileIsJudgedByItself()

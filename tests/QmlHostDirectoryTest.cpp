@@ -73,6 +73,25 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(ui.problem(), QString(), 10000);
     }
 
+    void mountedDirectoryIsNoticed()
+    {
+        const QString obstacle = resources->becomeMountPoint();
+        if (!obstacle.isNull())
+            QSKIP(qPrintable(obstacle));
+        TarnisUi ui(TarnisUi::directory(resources->path));
+        ui.publish();
+        QVERIFY(ui.waitUntilReady(10000));
+        const Page page(lookups);
+        resources->unmount();
+        QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("colors.ini does not exist"), 10000);
+        QCOMPARE(page["all"].toString(), resources->lookups("Cancel"));
+        resources->shell("paint ../stored/colors.ini");
+        resources->mount();
+        QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
+        QCOMPARE(ui.problem(), QString());
+        resources->unmount();
+    }
+
     void directoryMayAppearLaterAndNamesItsFaults()
     {
         const QString path = resources->parent.filePath("later");

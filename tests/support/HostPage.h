@@ -7,6 +7,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cerrno>
+#include <cstring>
+#include <sched.h>
+#include <sys/mount.h>
+
 namespace Tests
 {
 
@@ -63,6 +68,19 @@ public:
         const QString paint = "paint() { printf '[Day]\\nText=#fe01fd\\n' > $1; }; ";
         QCOMPARE(run("sh", {"-ec", "cd '" + path + "'; " + paint + commands}).exitStatus, 0);
     }
+
+    /// Turns the directory into a mount point of its content, for this process and its children. Returns why that is
+    /// not possible; null if it is.
+    QString becomeMountPoint() const
+    {
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+            return QString("cannot create a mount namespace: ") + strerror(errno);
+        shell("cd ..; mv resources stored; mkdir resources");
+        mount();
+        return QString();
+    }
+    void mount() const { shell("cd ..; mount --bind stored resources"); }
+    void unmount() const { shell("cd ..; umount --lazy resources"); }
 
     /// What the lookups of a page are, with this text.
     QString lookups(const QString& text) const
