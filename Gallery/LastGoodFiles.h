@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Gallery/FileFaults.h"
 #include "ResourceFormat/Directory.h"
 
 #include <QSet>
@@ -18,13 +19,10 @@ public:
     /// Where the copies are: a resource directory.
     ResourceFormat::Directory copies() const;
 
-    /// Reads an INI file or a flat JSON object and appends its faults, with file and line. Writes the content to
-    /// `copy`, a path in copies(), unless the content has faults and that of the copy has none. Returns the path to
-    /// show: that of the copy, or of the file if the copy cannot be written.
-    QString update(const QString& path, const QString& copy, QStringList& faults);
-
-    /// The fault that keeps the text from being JSON, with file, line and column; null if there is none.
-    static QString jsonFault(const QString& path, const QByteArray& content);
+    /// Reads a file and appends its faults, which `findFaults` tells from its content. Writes the content to `copy`, a
+    /// path in copies(), unless the content has faults and that of the copy has none. Returns the path to show: that of
+    /// the copy, or of the file if the copy cannot be written.
+    QString update(const QString& path, const QString& copy, FileFaults::Finder findFaults, QStringList& faults);
 
 private:
     const QTemporaryDir directory;

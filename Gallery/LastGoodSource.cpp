@@ -2,11 +2,13 @@
 
 #include "ResourceFormat/Directory.h"
 #include "ResourceFormat/DisplaySize.h"
+#include "ResourceFormat/PublishedResources.h"
 #include "ResourceFormat/RegularFile.h"
 
 #include <QFile>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Gallery
 {
@@ -17,16 +19,35 @@ using QmlHost::Answers;
 namespace
 {
 
-// Sources do not answer with a mapping table that is not JSON, and not all of them tell the line of the fault.
-void addMappingFault(const Directory& directory, QStringList& faults)
+// With the line, which PublishedResources does not tell.
+QStringList faultsOfTable(const Directory& directory)
 {
-    const QString path = directory.mappingTable();
     QString unreadable;
-    const QByteArray content = RegularFile::readAll(path, unreadable);
-    const QString fault =
-        unreadable.isNull() ? LastGoodFiles::jsonFault(path, content) : QStringLiteral("%1: %2").arg(path, unreadable);
-    if (!fault.isNull())
-        faults.append(fault);
+    const QByteArray content = RegularFile::readAll(directory.mappingTable(), unreadable);
+    return unreadable.isNull() ? FileFaults::ofMappingTable(directory.mappingTable(), content) : QStringList();
+}
+
+// Why the parts that are not answered are missing. A source may tell only that they are.
+QStringList faultsOfMissingParts(const Answers& answers, const Directory& directory)
+{
+    const PublishedResources resources(directory);
+    QString problems[5];
+    QStringList faults;
+    if (!answers.colorFile.isAnswered())
+        resources.colorFile(problems[0]);
+    if (!answers.fontFile.isAnswered())
+        resources.fontFile(problems[1]);
+    if (!answers.displaySizes.isAnswered())
+        resources.displaySizes(problems[2]);
+    if (!answers.icons.isAnswered()) {
+        resources.iconFolder(problems[3]);
+        faults = faultsOfTable(directory);
+        if (faults.isEmpty())
+            resources.mappingTable(QString(), problems[4]);
+    }
+    std::copy_if(std::begin(problems), std::end(problems), std::back_inserter(faults),
+                 [](const QString& problem) { return !problem.isNull(); });
+    return faults;
 }
 
 // Without the sentences on a file whose fault is known: they are less exact.
@@ -63,18 +84,20 @@ void LastGoodSource::ask()
 
 void LastGoodSource::passOn(const Answers& answers, const QString& problem)
 {
+    if (!answers.directory().isEmpty())
+        directory = answers.directory();
     Answers copied = answers;
     QStringList faults;
-    if (answers.colorFile.isAnswered()) {
-        const QString path = answers.colorFile.value;
-        copied.setColorFile(files.update(path, files.copies().colorFile(), faults));
-        if (!answers.icons.isAnswered())
-            addMappingFault(Directory(QFileInfo(path).path()), faults);
-    }
+    const Directory copies = files.copies();
+    if (answers.colorFile.isAnswered())
+        copied.setColorFile(files.update(answers.colorFile.value, copies.colorFile(), FileFaults::ofIni, faults));
     if (answers.fontFile.isAnswered())
-        copied.setFontFile(files.update(answers.fontFile.value, files.copies().fontFile(), faults));
+        copied.setFontFile(files.update(answers.fontFile.value, copies.fontFile(), FileFaults::ofIni, faults));
     copyDimensions(copied, faults);
+    judgeMappingTable(copied, faults);
     copyTexts(copied, faults);
+    if (!directory.isEmpty())
+        faults += faultsOfMissingParts(answers, Directory(directory));
     Q_EMIT answered(copied, join(faults, problem));
 }
 
@@ -83,7 +106,8 @@ void LastGoodSource::copyDimensions(Answers& answers, QStringList& faults)
     const QString folder = files.copies().dimensionFolder();
     auto displaySizes = answers.displaySizes.value;
     for (auto& [size, path] : displaySizes)
-        path = files.update(path, QStringLiteral("%1/%2.ini").arg(folder, DisplaySize::toName(size)), faults);
+        path = files.update(path, QStringLiteral("%1/%2.ini").arg(folder, DisplaySize::toName(size)), FileFaults::ofIni,
+                            faults);
     answers.setDisplaySizes(displaySizes);
 }
 
@@ -93,13 +117,29 @@ void LastGoodSource::copyTexts(Answers& answers, QStringList& faults)
         return;
     const Directory copies = files.copies();
     QStringList shown;
-    for (const QFileInfo& file : Directory(QFileInfo(answers.textFolder.value).path()).languageFiles())
-        shown.append(files.update(file.filePath(), copies.textFolder() + QLatin1Char('/') + file.fileName(), faults));
+    for (const QFileInfo& file : Directory(QFileInfo(answers.textFolder.value).path()).languageFiles()) {
+        shown.append(files.update(file.filePath(), copies.textFolder() + QLatin1Char('/') + file.fileName(),
+                                  FileFaults::ofTexts, faults));
+    }
     for (const QFileInfo& copy : copies.languageFiles()) {
         if (!shown.contains(copy.filePath()))
             QFile::remove(copy.filePath());
     }
     answers.setTexts(copies.path());
+}
+
+// Everybody who reads a faulty table logs its faults, so nobody gets it.
+void LastGoodSource::judgeMappingTable(Answers& answers, QStringList& faults)
+{
+    if (!answers.icons.isAnswered())
+        return;
+    QString& table = answers.icons.value.second;
+    const QStringList found = FileFaults::ofMappingTable(Directory(directory).mappingTable(), table.toUtf8());
+    faults += found;
+    if (found.isEmpty())
+        goodTable = table;
+    else
+        table = goodTable.isNull() ? FileFaults::soundPart(table) : goodTable;
 }
 
 } // namespace Gallery

@@ -9,7 +9,8 @@ namespace Gallery
 {
 
 /// Passes on the answers of another source, with copies of the files: a file with a fault is shown as it was before,
-/// and `problem` names the file, the line and the reason. Icon files are not copied.
+/// and `problem` names the file, the line and the reason until it is repaired. Files that the other source cannot offer
+/// are named, too. Icon files are not copied.
 class LastGoodSource : public QmlHost::Source
 {
     Q_OBJECT
@@ -24,9 +25,12 @@ private:
     void passOn(const QmlHost::Answers& answers, const QString& problem);
     void copyDimensions(QmlHost::Answers& answers, QStringList& faults);
     void copyTexts(QmlHost::Answers& answers, QStringList& faults);
+    void judgeMappingTable(QmlHost::Answers& answers, QStringList& faults);
 
     QmlHost::Source* const original; // child of this object
     LastGoodFiles files;
+    QString goodTable; // the last mapping table without faults; null if there was none
+    QString directory; // of the resources; empty if it is not known
 };
 
 } // namespace Gallery

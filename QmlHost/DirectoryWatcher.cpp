@@ -41,7 +41,6 @@ DirectoryWatcher::~DirectoryWatcher()
 void DirectoryWatcher::watchResources(const ResourceFormat::Directory& directory)
 {
     clear();
-    watchMounts();
     QStringList files{directory.colorFile(), directory.fontFile(), directory.mappingTable()};
     for (const QFileInfo& file : directory.dimensionFiles() + directory.languageFiles())
         files.append(file.filePath());
@@ -75,6 +74,7 @@ void DirectoryWatcher::noteChange()
 
 void DirectoryWatcher::clear()
 {
+    watchMounts();
     notifier.reset();
     if (descriptor >= 0)
         ::close(descriptor);

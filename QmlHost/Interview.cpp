@@ -2,8 +2,6 @@
 
 #include "TarnisLibrary/TarnisDefinitions.h"
 
-#include <QFileInfo>
-
 namespace QmlHost
 {
 
@@ -46,8 +44,8 @@ Answers Interview::answers(bool includesIconFiles) const
     answers.setFontFile(fontFile);
     answers.setDisplaySizes(displaySizes);
     answers.setIcons(iconFolder, mappingTable, includesIconFiles);
-    if (!colorFile.isEmpty())
-        answers.setTexts(QFileInfo(colorFile).path());
+    if (!answers.directory().isEmpty())
+        answers.setTexts(answers.directory());
     return answers;
 }
 

@@ -81,7 +81,10 @@ private Q_SLOTS:
         resources->unmount();
     }
 
-    void eachFileIsJudgedByItself_data() { addRows({"isService", "page", "kept", "file", "content", "message"}); }
+    void eachFileIsJudgedByItself_data()
+    {
+        addRows({"isService", "page", "kept", "file", "isRemoved", "content", "message"});
+    }
 
     void eachFileIsJudgedByItself()
     {
@@ -92,8 +95,9 @@ private Q_SLOTS:
                                                           : TarnisUi::directory(resources->path));
         gallery.session.view.setPage(row()["page"].toString());
         QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains(kept), 10000);
-        resources->shell("cp " + file + " ../good");
-        writeFile(resources->path + '/' + file, row()["content"].toString().toUtf8());
+        resources->shell("mv " + file + " ../good");
+        if (!row()["isRemoved"].toBool())
+            writeFile(resources->path + '/' + file, row()["content"].toString().toUtf8());
         const QString message = resources->path + '/' + file + row()["message"].toString();
         QTRY_VERIFY2_WITH_TIMEOUT(gallery.text().contains(message), qPrintable(gallery.text()), 10000);
         resources->shell("sed -i 's/\"Humidity\"/\"Edited\"/' texts/en.json");
@@ -101,6 +105,18 @@ private Q_SLOTS:
         QVERIFY2(gallery.text().contains(kept), qPrintable(gallery.text()));
         resources->shell("mv ../good " + file);
         QTRY_COMPARE_WITH_TIMEOUT(gallery.session.ui.problem(), QString(), 10000);
+    }
+
+    void faultyMappingTableIsAnnouncedOnce()
+    {
+        resources->shell("sed -i '1s/{/{\"wrong\": 1,/' icons/mapping.json");
+        GalleryWindow gallery(TarnisUi::directory(resources->path));
+        gallery.session.view.setPage("Icons");
+        const QString problem = resources->path
+            + "/icons/mapping.json:1:11: the alias \"wrong\" is not an object; replace it with an object";
+        QTRY_COMPARE_WITH_TIMEOUT(gallery.session.ui.problem(), problem, 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("airQuality"), 10000);
+        QCOMPARE(gallery.session.log.records(), QVariantList());
     }
 
     void arrowKeysInTheListOfPagesMoveThePage()

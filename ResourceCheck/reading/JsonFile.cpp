@@ -28,6 +28,12 @@ JsonFile::JsonFile(const QString& path)
         parse(content);
 }
 
+JsonFile::JsonFile(const QString& path, const QByteArray& content)
+    : filePath(path)
+{
+    parse(content);
+}
+
 void JsonFile::parse(const QByteArray& content)
 {
     // Qt accepts null characters, but a text with one cannot be sent over the D-Bus.

@@ -12,6 +12,9 @@ public:
     /// A file that cannot be read, or does not contain a JSON object, has an empty root object.
     explicit JsonFile(const QString& path);
 
+    /// The file as if it had this content.
+    JsonFile(const QString& path, const QByteArray& content);
+
     const QString& path() const { return filePath; }
 
     /// Why the file cannot be read; null if it can.

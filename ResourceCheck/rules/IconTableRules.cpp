@@ -41,12 +41,7 @@ QSet<QString> contextsOf(const JsonValue& alias)
 
 void checkJson(const IconTable& table, const Report& report)
 {
-    reportFault(table.file, report);
-    reportOtherTypes(table.file.root(), JsonValue::Type::Object, QStringLiteral("alias"), report);
-    for (const JsonValue& alias : aliasesOf(table)) {
-        const QString kind = QStringLiteral("path of the alias \"%1\" for").arg(alias.name);
-        reportOtherTypes(alias, JsonValue::Type::String, kind, report);
-    }
+    reportTableFaults(table.file, report);
 }
 
 void checkDuplicateAliases(const IconTable& table, const Report& report)

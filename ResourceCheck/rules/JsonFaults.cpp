@@ -5,12 +5,17 @@
 namespace ResourceCheck
 {
 
+namespace
+{
+
+// Why the file is not a JSON object, if it is not.
 void reportFault(const JsonFile& file, const Report& report)
 {
     if (!file.fault().isNull())
         report(file.faultPlace(), file.fault());
 }
 
+// Each member of the object that does not have the type. `kind` is the noun for its members.
 void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QString& kind, const Report& report)
 {
     const QString typeName = type == JsonValue::Type::Object ? QStringLiteral("an object") : QStringLiteral("a string");
@@ -19,6 +24,26 @@ void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QStri
             report(member.place,
                    QStringLiteral("the %1 \"%2\" is not %3; replace it with %3").arg(kind, member.name, typeName));
         }
+    }
+}
+
+} // namespace
+
+void reportTextFaults(const JsonFile& file, const Report& report)
+{
+    reportFault(file, report);
+    reportOtherTypes(file.root(), JsonValue::Type::String, QStringLiteral("text"), report);
+}
+
+void reportTableFaults(const JsonFile& file, const Report& report)
+{
+    reportFault(file, report);
+    reportOtherTypes(file.root(), JsonValue::Type::Object, QStringLiteral("alias"), report);
+    for (const JsonValue& alias : file.root().members) {
+        if (alias.type != JsonValue::Type::Object)
+            continue;
+        const QString kind = QStringLiteral("path of the alias \"%1\" for").arg(alias.name);
+        reportOtherTypes(alias, JsonValue::Type::String, kind, report);
     }
 }
 

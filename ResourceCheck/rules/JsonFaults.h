@@ -6,11 +6,11 @@
 namespace ResourceCheck
 {
 
-/// Reports why the file is not a JSON object, if it is not.
-void reportFault(const JsonFile& file, const Report& report);
+/// Reports what keeps a text file from being a flat JSON object of strings.
+void reportTextFaults(const JsonFile& file, const Report& report);
 
-/// Reports each member of the object that does not have the type. `kind` is the noun for its members, such as "alias".
-void reportOtherTypes(const JsonValue& object, JsonValue::Type type, const QString& kind, const Report& report);
+/// Reports what keeps a mapping table from being a JSON object of aliases, which are objects of paths.
+void reportTableFaults(const JsonFile& file, const Report& report);
 
 /// Reports each member of the object that has the name of an earlier one.
 void reportDuplicates(const JsonValue& object, const QString& kind, const Report& report);

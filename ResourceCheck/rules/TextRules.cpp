@@ -22,8 +22,7 @@ Rule::Check forEachText(void (*check)(const TextFile& text, const Report& report
 
 void checkJson(const TextFile& text, const Report& report)
 {
-    reportFault(text.file, report);
-    reportOtherTypes(text.file.root(), JsonValue::Type::String, QStringLiteral("text"), report);
+    reportTextFaults(text.file, report);
 }
 
 void checkDuplicates(const TextFile& text, const Report& report)
