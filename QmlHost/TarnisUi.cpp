@@ -13,7 +13,10 @@ using QmlHost::Resources;
 namespace
 {
 
-// A part of the registration of the QML type, which is one for the whole process, too.
+// Qt's registry of QML types is one for the whole process, and its callback gets nothing but the engine, which may
+// exist before and after any TarnisUi. So what it returns to an engine must be found from here. Registering the type
+// again for each TarnisUi would need no variable, but components that an older engine loads later would get a second
+// Ui.
 QPointer<Resources>& publishedResources()
 {
     static QPointer<Resources> resources;

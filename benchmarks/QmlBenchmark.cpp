@@ -1,6 +1,6 @@
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisColorHandler.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisElementDimensionHandler.h"
-#include "tests/support/TestProcess.h"
+#include "benchmarks/Screen.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -11,8 +11,6 @@
 #include <benchmark/benchmark.h>
 
 #include <memory>
-
-using namespace Tests;
 
 namespace
 {
@@ -78,10 +76,7 @@ void registerBenchmarks()
 
 int main(int argc, char* argv[])
 {
-    TestProcess display("Xvfb", {"-displayfd", "1", "-dpi", "96", "-screen", "0", "1280x800x24", "-nolisten", "tcp"});
-    qputenv("DISPLAY", ':' + display.firstLine().toLatin1());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    qputenv("QT_QUICK_BACKEND", "software");
+    const Benchmarks::Screen screen;
     const QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     registerBenchmarks();

@@ -22,6 +22,15 @@ export XDG_RUNTIME_DIR=$work
 start_service "$prefix/bin/tarnis-module" "$prefix/share/tarnis/resources"
 CMAKE_PREFIX_PATH=$prefix PKG_CONFIG_PATH=$pkgconfig \
   ./scripts/use-installed.sh "$work/examples" "$work" "$prefix/share/tarnis"
+
+# The QML plugin in a program without a host: on a directory, and on the service.
+imports=$(dirname "$(dirname "$(find "$prefix" -name libtarnisqml.so)")")
+for directory in "$prefix/share/tarnis/resources" ''; do
+  QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 QT_QUICK_BACKEND=software TARNIS_RESOURCES=$directory \
+    timeout 60 /usr/lib/qt5/bin/qmltestrunner -import "$imports" -input tests/qml >"$work/qml.log" 2>&1 ||
+    { cat "$work/qml.log" >&2; fail "qmltestrunner does not work with the installed QML plugin"; }
+done
+
 start_screen
 QML2_IMPORT_PATH=$prefix/share/tarnis/qml timeout 60 "$prefix/bin/tarnis-gallery" --screenshot "$work/gallery.png"
 

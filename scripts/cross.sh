@@ -13,7 +13,7 @@ if [ ! -d "$sysroot" ]; then
   mkdir -p build
   apt-config dump Acquire >"$sysroot.conf"
   mmdebstrap --variant=extract --architectures=arm64 --format=directory --aptopt="$sysroot.conf" \
-    --include=qtdeclarative5-private-dev,libdbus-1-dev bookworm "$sysroot.new" >"$sysroot.log" 2>&1 ||
+    --include=qtbase5-private-dev,qtdeclarative5-private-dev,libdbus-1-dev bookworm "$sysroot.new" >"$sysroot.log" 2>&1 ||
     { tail -n 40 "$sysroot.log" >&2; exit 1; }
   # moc and the other Qt tools run on this machine.
   rm -rf "$sysroot.new/usr/lib/qt5/bin"

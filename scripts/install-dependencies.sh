@@ -12,7 +12,7 @@ set -euo pipefail
 
 packages=(
   g++ cmake ninja-build git ca-certificates
-  qtbase5-dev qtdeclarative5-dev qtdeclarative5-private-dev
+  qtbase5-dev qtbase5-private-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtdeclarative5-private-dev
   qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-layouts qml-module-qtquick-controls2
   qml-module-qttest
   libqt5svg5 fonts-inter fonts-dejavu-core fonts-ipaexfont-gothic
@@ -20,7 +20,7 @@ packages=(
 )
 for option in "$@"; do
   case $option in
-    --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy codespell shellcheck qtbase5-private-dev) ;;
+    --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy codespell shellcheck) ;;
     --package) packages+=(dpkg-dev file lintian mmdebstrap pahole qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
     --docs) packages+=(doxygen) ;;
     --cross) packages+=(g++-aarch64-linux-gnu qemu-user mmdebstrap) ;;

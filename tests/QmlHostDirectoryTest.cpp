@@ -1,11 +1,9 @@
-// The host library with directories, and the life of its handlers.
+// The host library with directories.
 
 #include "QmlHost/TarnisUi.h"
 #include "tests/support/DataRows.h"
 #include "tests/support/HostPage.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QSettings>
 
 #include <optional>
@@ -22,22 +20,6 @@ class QmlHostDirectoryTest : public QObject
 private Q_SLOTS:
     void init() { resources.emplace(); }
     void cleanup() { resources.reset(); }
-
-    void languageIsSharedByAllEngines()
-    {
-        TarnisUi ui(TarnisUi::directory(resources->path));
-        ui.publish();
-        ui.setLanguage("fr");
-        QVERIFY(ui.waitUntilReady(10000));
-        const Page first(lookups);
-        const Page second(lookups
-                          + "property var names: [Ui.language].concat(Ui.languages)\n"
-                            "function choose() { Ui.language = 'de' }");
-        QCOMPARE(first["all"].toString(), resources->lookups("Annuler"));
-        second.call("choose");
-        QCOMPARE(first["all"].toString(), resources->lookups("Abbrechen"));
-        QCOMPARE(second["names"].toStringList(), (QStringList{"de", "de", "de_AT", "en", "fr", "ja"}));
-    }
 
     void textsComeFromTheHostIfItHasThem()
     {
@@ -106,38 +88,6 @@ private Q_SLOTS:
         QCOMPARE(page["height"], QVariant());
     }
 
-    void handlersThatScriptsKeepStayAlive()
-    {
-        TarnisUi ui(TarnisUi::directory(resources->path));
-        ui.publish();
-        QVERIFY(ui.waitUntilReady(10000));
-        Page page(lookups
-                  + "property var kept\n"
-                    "Component.onCompleted: kept = [Ui.colors, Ui.fonts, Ui.dimensions, Ui.icons, Ui.texts]\n"
-                    "function look() { return [kept[0].getColor('Day', 'Text'), kept[1].getFontFamily('Text'), "
-                    "kept[2].uiElementDimensions['Button/height'], kept[3].getIconPath('home').length > 0, "
-                    "kept[4].translatedTexts['text://Button/Cancel']].join() }\n"
-                    "function drop() { kept = [] }");
-        int destroyed = 0;
-        for (const QVariant& kept : page["kept"].toList())
-            connect(kept.value<QObject*>(), &QObject::destroyed, [&destroyed] { ++destroyed; });
-        for (const QString color : {"#fe01fd", "#fe01fe", "#1f2a37"}) {
-            resources->shell("for f in *.ini dimensions/* texts/* icons/mapping.json; do sed -i s/xyz/xyz/ $f; done; "
-                             "sed -i '/Day/,/Night/s/^Text=.*/Text="
-                             + color + "/' colors.ini; echo >> icons/mapping.json");
-            QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), color, 10000);
-            page.engine.collectGarbage();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-        ui.setLanguage("de"); // old handlers do not follow it
-        QCOMPARE(page.call("look").toString(), QString("#1f2a37,Inter,48,true,Cancel"));
-        QCOMPARE(destroyed, 0);
-        page.call("drop");
-        page.engine.collectGarbage();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(destroyed, 5);
-    }
-
     void hostLimitsTheDisplaySizeAndSeesTheAnswersBeforeQmlIsTold()
     {
         TarnisUi ui(TarnisUi::directory(resources->path));
@@ -157,24 +107,6 @@ private Q_SLOTS:
         resources->shell("paint colors.ini");
         QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
         QCOMPARE(seen, (QStringList{resources->path + "/colors.ini", "#1f2a37", "#fe01fd"}));
-    }
-
-    void newPrimaryScreenGetsNewFontsAndDimensions()
-    {
-        std::optional<TarnisUi> ui(std::in_place, TarnisUi::directory(resources->path));
-        ui->publish();
-        QVERIFY(ui->waitUntilReady(10000));
-        const Page page(lookups + "property var fonts: Ui.fonts; property var dimensions: Ui.dimensions");
-        const auto handlers = [&page] {
-            return QList<QObject*>{page["fonts"].value<QObject*>(), page["dimensions"].value<QObject*>()};
-        };
-        const QList<QObject*> before = handlers();
-        Q_EMIT qGuiApp->primaryScreenChanged(QGuiApplication::primaryScreen());
-        QVERIFY(handlers().at(0) != before.at(0) && handlers().at(1) != before.at(1));
-        QCOMPARE(page["all"].toString(), resources->lookups("Cancel"));
-        ui.reset();
-        Q_EMIT qGuiApp->primaryScreenChanged(QGuiApplication::primaryScreen()); // the engine lives longer than the host
-        QCOMPARE(page["family"].toString(), QString("Inter"));
     }
 };
 

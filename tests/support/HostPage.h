@@ -29,7 +29,10 @@ inline const QByteArray lookups =
 class Page
 {
 public:
-    explicit Page(const QByteArray& members)
+    explicit Page(const QByteArray& members) { load(members); }
+
+    /// Replaces the object.
+    void load(const QByteArray& members)
     {
         QQmlComponent component(&engine);
         component.setData("import QtQml 2.15\nimport Tarnis 1.0\nQtObject { " + members + " }", QUrl());
