@@ -1,6 +1,7 @@
 #include "Gallery/Session.h"
 
 #include "Gallery/LastGoodSource.h"
+#include "Gallery/frontend/FrontEndView.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -13,6 +14,7 @@ Session::Session(std::unique_ptr<QmlHost::Source> source)
     : ui(std::make_unique<LastGoodSource>(std::move(source)))
     , catalogs(ui)
     , view(ui)
+    , preview(ui, view)
 {
 }
 
@@ -39,6 +41,8 @@ void Session::publish()
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "TextCatalog", &catalogs.texts);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "View", &view);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Preview", &preview);
+    qmlRegisterType<FrontEndView>("Tarnis", 1, 0, "FrontEndView");
 }
 
 } // namespace Gallery

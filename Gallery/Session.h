@@ -3,6 +3,7 @@
 #include "Gallery/MessageLog.h"
 #include "Gallery/View.h"
 #include "Gallery/catalog/Catalogs.h"
+#include "Gallery/frontend/LivePreview.h"
 #include "QmlHost/TarnisUi.h"
 
 #include <memory>
@@ -25,6 +26,7 @@ struct Session {
     TarnisUi ui;
     Catalogs catalogs;
     View view;
+    LivePreview preview;
 };
 
 } // namespace Gallery

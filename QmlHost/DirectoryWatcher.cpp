@@ -72,6 +72,15 @@ void DirectoryWatcher::noteChange()
         delay.start();
 }
 
+void DirectoryWatcher::watchFiles(const QStringList& files)
+{
+    clear();
+    for (const QString& file : files) {
+        watchPath(file);
+        watch(QFileInfo(file).path(), everyEntry);
+    }
+}
+
 void DirectoryWatcher::clear()
 {
     watchMounts();

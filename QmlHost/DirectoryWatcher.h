@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -32,6 +33,9 @@ public:
     /// Watches the files of this directory, whether or not it exists, instead of those that it watched before: each
     /// directory and each symbolic link on the way to them. Call it on the thread that watches.
     void watchResources(const ResourceFormat::Directory& directory);
+
+    /// The same for these files, whether or not they exist, and all entries of the folders that they are in.
+    void watchFiles(const QStringList& files);
 
     /// Why changes are not noticed; null if they are.
     QString problem() const;

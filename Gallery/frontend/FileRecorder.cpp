@@ -1,0 +1,50 @@
+#include "Gallery/frontend/FileRecorder.h"
+
+#include "QmlHost/Fingerprint.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QImageReader>
+#include <QLibraryInfo>
+#include <QMutexLocker>
+
+namespace Gallery
+{
+
+namespace
+{
+
+bool isPicture(const QString& path)
+{
+    return QImageReader::supportedImageFormats().contains(QFileInfo(path).suffix().toLower().toLatin1());
+}
+
+} // namespace
+
+QUrl FileRecorder::intercept(const QUrl& url, DataType type)
+{
+    static const QString modules = QLibraryInfo::location(QLibraryInfo::Qml2ImportsPath);
+    const QString path = QDir::cleanPath(url.toLocalFile());
+    if (path.isEmpty() || path.startsWith(modules))
+        return url;
+    {
+        const QMutexLocker locker(&mutex);
+        paths.insert(path);
+    }
+    if (type != UrlString || url.hasFragment() || !isPicture(path))
+        return url;
+    QUrl versioned = url;
+    versioned.setFragment(QString::number(qHash(QmlHost::Fingerprint::of({path}))));
+    return versioned;
+}
+
+QStringList FileRecorder::files() const
+{
+    const QMutexLocker locker(&mutex);
+    QStringList sorted = paths.values();
+    sorted.sort();
+    return sorted;
+}
+
+} // namespace Gallery

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QMutex>
+#include <QQmlAbstractUrlInterceptor>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+namespace Gallery
+{
+
+/// Notes which local files a QML engine reads. Thread-safe, because the engine also reads files on a thread of its own.
+///
+/// Qt shares pictures between engines, by URL. The recorder therefore adds the state of the file to the URL of each
+/// picture, as a fragment, so that a picture that was saved again is read again.
+class FileRecorder : public QQmlAbstractUrlInterceptor
+{
+public:
+    QUrl intercept(const QUrl& url, DataType type) override;
+
+    /// The paths of the files, including missing ones and without those of the modules installed with Qt. Sorted.
+    QStringList files() const;
+
+private:
+    mutable QMutex mutex;
+    QSet<QString> paths;
+};
+
+} // namespace Gallery

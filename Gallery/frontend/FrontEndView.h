@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Gallery/frontend/LivePreview.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QQuickPaintedItem>
+#include <QSet>
+#include <QTimer>
+
+namespace Gallery
+{
+
+/// Shows the front end of the live preview, scaled to the size of the item, and passes mouse, touch screen and keyboard
+/// on to it. The QML type `FrontEndView` of the module `Tarnis`.
+class FrontEndView : public QQuickPaintedItem
+{
+    Q_OBJECT
+
+    /// Null until it is set. It must outlive the item.
+    Q_PROPERTY(Gallery::LivePreview* preview READ preview WRITE setPreview NOTIFY previewChanged)
+
+public:
+    FrontEndView();
+
+    LivePreview* preview() const;
+    void setPreview(LivePreview* livePreview);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void previewChanged();
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    void follow();
+    void scheduleDrawing();
+    void draw();
+    bool passOn(QEvent& event, QQuickWindow& window);
+    void passMouse(const QMouseEvent& event, QQuickWindow& window);
+    void passHover(const QHoverEvent& event, QQuickWindow& window);
+    bool passWheel(const QWheelEvent& event, QQuickWindow& window);
+    void passTouch(const QTouchEvent& event, QQuickWindow& window);
+    bool passKey(QKeyEvent& event, QQuickWindow& window);
+    QPointF toFrontEnd(const QPointF& position) const;
+
+    LivePreview* source = nullptr;
+    QImage picture;
+    QTimer delay;
+    QElapsedTimer sinceDrawn;
+    QSet<const QQuickItem*> tabbed; // the items that had the focus since the front end got it
+};
+
+} // namespace Gallery

@@ -1,0 +1,195 @@
+#include "Gallery/frontend/LivePreview.h"
+
+#include "QmlHost/Fingerprint.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QQuickWindow>
+#include <QScreen>
+
+#include <utility>
+
+namespace Gallery
+{
+
+namespace
+{
+
+constexpr int lookMilliseconds = 100;
+
+// The page DeviceSettings shows the screen "settings" of the sample front end.
+QString screenOf(const QString& page)
+{
+    const QString screen = page.mid(QStringLiteral("Device").size()).toLower();
+    return screen.isEmpty() ? QStringLiteral("home") : screen;
+}
+
+// The files that may matter, because QML takes types from them, are the others in the same folders.
+QStringList withNeighbors(const QStringList& files)
+{
+    static const QStringList kinds{QStringLiteral("*.qml"), QStringLiteral("*.js"), QStringLiteral("*.mjs"),
+                                   QStringLiteral("qmldir")};
+    QStringList all = files;
+    QStringList folders;
+    for (const QString& file : files)
+        folders.append(QFileInfo(file).path());
+    folders.removeDuplicates();
+    for (const QString& folder : qAsConst(folders)) {
+        const QStringList names = QDir(folder).entryList(kinds, QDir::Files);
+        for (const QString& name : names)
+            all.append(folder + QLatin1Char('/') + name);
+    }
+    return all;
+}
+
+} // namespace
+
+struct LivePreview::Version {
+    Version(const QUrl& url, const QSize& size, const QVariantMap& properties)
+        : frontEnd(url, size, properties)
+        , state(frontEnd)
+    {
+    }
+
+    FrontEnd frontEnd;
+    FrontEndState state;
+};
+
+LivePreview::LivePreview(TarnisUi& tarnisUi, View& galleryView)
+    : ui(tarnisUi)
+    , view(galleryView)
+    , url(QStringLiteral("qrc:/qml/device/Main.qml"))
+    , watcher(this)
+{
+    connect(&watcher, &QmlHost::DirectoryWatcher::changed, this, &LivePreview::reloadIfChanged);
+    delay.setSingleShot(true);
+    delay.setInterval(lookMilliseconds);
+    connect(&delay, &QTimer::timeout, this, &LivePreview::lookAround);
+    connect(&view, &View::changed, this, &LivePreview::followView);
+    connect(&ui, &TarnisUi::displaySizeChanged, this, &LivePreview::followSize);
+    connect(&ui, &TarnisUi::answersChanged, this, &LivePreview::followSize);
+    connect(&ui, &TarnisUi::languageChanged, this, &LivePreview::followLanguage);
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    if (screen != nullptr)
+        connect(screen, &QScreen::geometryChanged, this, &LivePreview::followSize);
+}
+
+LivePreview::~LivePreview() = default;
+
+void LivePreview::setFile(const QString& path)
+{
+    url = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
+}
+
+void LivePreview::load()
+{
+    if (std::exchange(isStarted, true))
+        return;
+    shownScreen = screenOf(view.page());
+    build(false);
+}
+
+FrontEnd* LivePreview::frontEnd() const
+{
+    return version == nullptr ? nullptr : &version->frontEnd;
+}
+
+QString LivePreview::problem() const
+{
+    return lastProblem;
+}
+
+bool LivePreview::isLoaded() const
+{
+    return version != nullptr;
+}
+
+QSize LivePreview::size() const
+{
+    return version == nullptr ? QSize() : version->frontEnd.window()->size();
+}
+
+void LivePreview::reset()
+{
+    shownScreen = screenOf(view.page());
+    build(false);
+}
+
+void LivePreview::build(bool keepsState)
+{
+    fingerprint = QmlHost::Fingerprint::of(withNeighbors(files));
+    const QVariantMap properties{{QStringLiteral("context"), view.context()}, {QStringLiteral("screen"), shownScreen}};
+    auto fresh = std::make_unique<Version>(url, ui.displaySize(), properties);
+    followFiles(fresh->frontEnd);
+    lastProblem = fresh->frontEnd.problem();
+    if (lastProblem.isEmpty())
+        swap(std::move(fresh), keepsState);
+    Q_EMIT changed();
+}
+
+void LivePreview::swap(std::unique_ptr<Version> fresh, bool keepsState)
+{
+    fresh->state.observe();
+    if (keepsState && version != nullptr)
+        fresh->state.restore(version->state);
+    std::swap(version, fresh);
+    followLanguage();
+    connect(&version->frontEnd, &FrontEnd::sizeChanged, this, &LivePreview::sizeChanged);
+    connect(&version->frontEnd, &FrontEnd::drawn, &delay, [this] {
+        if (!delay.isActive())
+            delay.start();
+    });
+    Q_EMIT frontEndChanged();
+    Q_EMIT sizeChanged();
+}
+
+void LivePreview::lookAround()
+{
+    version->state.observe();
+    if (lastProblem.isEmpty())
+        followFiles(version->frontEnd);
+}
+
+void LivePreview::followFiles(const FrontEnd& frontEnd)
+{
+    if (frontEnd.files() == files)
+        return;
+    files = frontEnd.files();
+    watcher.watchFiles(files);
+    fingerprint = QmlHost::Fingerprint::of(withNeighbors(files));
+}
+
+void LivePreview::reloadIfChanged()
+{
+    if (QmlHost::Fingerprint::of(withNeighbors(files)) != fingerprint)
+        build(true);
+}
+
+void LivePreview::followView()
+{
+    if (version == nullptr)
+        return;
+    version->frontEnd.set(QStringLiteral("context"), view.context());
+    const bool isDevice = view.page().startsWith(QStringLiteral("Device"));
+    const QString screen = screenOf(view.page());
+    if (!isDevice || screen == shownScreen)
+        return;
+    shownScreen = screen;
+    version->frontEnd.set(QStringLiteral("screen"), screen);
+}
+
+void LivePreview::followSize()
+{
+    if (version != nullptr)
+        version->frontEnd.resize(ui.displaySize());
+}
+
+void LivePreview::followLanguage()
+{
+    if (version != nullptr)
+        version->frontEnd.setMirrored(QLocale(ui.language()).textDirection() == Qt::RightToLeft);
+}
+
+} // namespace Gallery
