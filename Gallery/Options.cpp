@@ -5,6 +5,7 @@
 #include "ResourceFormat/Language.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -25,10 +26,14 @@ struct Parser : QCommandLineParser {
         addPositionalArgument(QStringLiteral("DIR"),
                               QStringLiteral("Resource directory to show. It needs no bus and no service."),
                               QStringLiteral("[DIR]"));
-        addOptions({language, context, display, page, theme, size, screenshot, screenshotAll, dump});
+        addOptions({qml, language, context, display, page, theme, size, screenshot, screenshotAll, dump});
     }
 
     const QString name = QStringLiteral("NAME");
+    const QCommandLineOption qml{QStringLiteral("qml"),
+                                 QStringLiteral("Front end to show on the page Device instead of the sample. It is "
+                                                "loaded again whenever one of its files changes."),
+                                 QStringLiteral("FILE")};
     const QCommandLineOption language{QStringLiteral("language"), QStringLiteral("Text language."), name,
                                       ResourceFormat::Language::secondFallback()};
     const QCommandLineOption context{QStringLiteral("context"), QStringLiteral("Icon context."), name,
@@ -95,6 +100,9 @@ QString Options::parse(int argc, char* argv[])
     if (directories.size() > 1)
         return QStringLiteral("unexpected argument \"%1\"; name one directory").arg(directories.at(1));
     directory = directories.value(0);
+    qmlFile = parser.value(parser.qml);
+    if (parser.isSet(parser.qml) && !QFileInfo(qmlFile).isFile())
+        return QStringLiteral("\"%1\" is not a file; name the QML file of a front end").arg(qmlFile);
     language = parser.value(parser.language);
     context = parser.value(parser.context);
     display = parser.value(parser.display);

@@ -31,6 +31,12 @@ void Session::waitForSource(int milliseconds)
     loop.exec();
 }
 
+void Session::setFrontEnd(const QString& qmlFile)
+{
+    view.dropSampleScreens();
+    preview.setFile(qmlFile);
+}
+
 void Session::publish()
 {
     ui.publish();

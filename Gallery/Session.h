@@ -19,6 +19,9 @@ struct Session {
     /// Waits for the first answer or the first problem, but not longer than this.
     void waitForSource(int milliseconds);
 
+    /// Shows this QML file on the page Device instead of the sample front end. Call it before publish().
+    void setFrontEnd(const QString& qmlFile);
+
     /// Makes the singletons known to the QML engine that is created next. The session must outlive the engine.
     void publish();
 

@@ -11,7 +11,10 @@ namespace Gallery
 
 View::View(TarnisUi& tarnisUi)
     : ui(tarnisUi)
-    , pageName(pages().constFirst())
+    , pageNames{QStringLiteral("Device"), QStringLiteral("DeviceSettings"), QStringLiteral("DeviceDialog"),
+                QStringLiteral("Colors"), QStringLiteral("Fonts"),          QStringLiteral("Dimensions"),
+                QStringLiteral("Icons"),  QStringLiteral("Texts"),          QStringLiteral("Log")}
+    , pageName(pageNames.constFirst())
     , contextName(TarnisIconHandler::defaultContextPathKey)
     , themeName(themes().constFirst())
 {
@@ -20,11 +23,14 @@ View::View(TarnisUi& tarnisUi)
 
 QStringList View::pages() const
 {
-    static const QStringList names{
-        QStringLiteral("Device"), QStringLiteral("DeviceSettings"), QStringLiteral("DeviceDialog"),
-        QStringLiteral("Colors"), QStringLiteral("Fonts"),          QStringLiteral("Dimensions"),
-        QStringLiteral("Icons"),  QStringLiteral("Texts"),          QStringLiteral("Log")};
-    return names;
+    return pageNames;
+}
+
+void View::dropSampleScreens()
+{
+    pageNames.removeAll(QStringLiteral("DeviceSettings"));
+    pageNames.removeAll(QStringLiteral("DeviceDialog"));
+    Q_EMIT changed();
 }
 
 QString View::page() const

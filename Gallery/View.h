@@ -16,7 +16,7 @@ class View : public QObject
 {
     Q_OBJECT
 
-    Q_PROPERTY(QStringList pages READ pages CONSTANT)
+    Q_PROPERTY(QStringList pages READ pages NOTIFY changed)
     Q_PROPERTY(QString page READ page WRITE setPage NOTIFY changed)
     Q_PROPERTY(QString context READ context WRITE setContext NOTIFY changed)
     /// The text to search for on the current page.
@@ -35,6 +35,8 @@ public:
     explicit View(TarnisUi& tarnisUi);
 
     QStringList pages() const;
+    /// Leaves out the pages for the further screens of the sample front end.
+    void dropSampleScreens();
     QString page() const;
     void setPage(const QString& name);
     QString context() const;
@@ -62,6 +64,7 @@ Q_SIGNALS:
 
 private:
     TarnisUi& ui;
+    QStringList pageNames;
     QString pageName;
     QString contextName;
     QString themeName;

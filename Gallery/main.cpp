@@ -65,6 +65,8 @@ int show(Session& session, const Options& options)
 
 void apply(const Options& options, Session& session)
 {
+    if (!options.qmlFile.isEmpty())
+        session.setFrontEnd(options.qmlFile);
     session.ui.setLanguage(options.language);
     session.view.setDisplay(options.display);
     session.view.setPage(options.page);

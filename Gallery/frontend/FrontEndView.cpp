@@ -37,11 +37,15 @@ void FrontEndView::setPreview(LivePreview* livePreview)
 {
     if (livePreview == source)
         return;
+    if (source != nullptr)
+        disconnect(source, nullptr, this, nullptr);
     source = livePreview;
+    Q_EMIT previewChanged();
+    if (source == nullptr)
+        return;
     connect(source, &LivePreview::frontEndChanged, this, &FrontEndView::follow);
     source->load();
     follow();
-    Q_EMIT previewChanged();
 }
 
 void FrontEndView::paint(QPainter* painter)
@@ -79,7 +83,7 @@ void FrontEndView::scheduleDrawing()
 void FrontEndView::draw()
 {
     sinceDrawn.start();
-    if (source->frontEnd() != nullptr)
+    if (source != nullptr && source->frontEnd() != nullptr)
         picture = source->frontEnd()->picture();
     update();
 }

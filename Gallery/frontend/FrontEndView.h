@@ -17,7 +17,7 @@ class FrontEndView : public QQuickPaintedItem
 {
     Q_OBJECT
 
-    /// Null until it is set. It must outlive the item.
+    /// Null to show nothing. It must outlive the item. The first item loads the front end.
     Q_PROPERTY(Gallery::LivePreview* preview READ preview WRITE setPreview NOTIFY previewChanged)
 
 public:

@@ -96,6 +96,16 @@ FrontEnd* LivePreview::frontEnd() const
     return version == nullptr ? nullptr : &version->frontEnd;
 }
 
+bool LivePreview::isSample() const
+{
+    return !url.isLocalFile();
+}
+
+QString LivePreview::name() const
+{
+    return isSample() ? QStringLiteral("Sample front end") : url.fileName();
+}
+
 QString LivePreview::problem() const
 {
     return lastProblem;
@@ -109,6 +119,11 @@ bool LivePreview::isLoaded() const
 QSize LivePreview::size() const
 {
     return version == nullptr ? QSize() : version->frontEnd.window()->size();
+}
+
+void LivePreview::reload()
+{
+    build(true);
 }
 
 void LivePreview::reset()

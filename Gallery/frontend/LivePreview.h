@@ -26,6 +26,10 @@ class LivePreview : public QObject
 
     /// Why the file is not shown in its present form; empty if it is.
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
+    /// Whether it is the sample front end.
+    Q_PROPERTY(bool isSample READ isSample CONSTANT)
+    /// What the front end is called.
+    Q_PROPERTY(QString name READ name CONSTANT)
     /// Whether there is a version to show.
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY changed)
     /// Of the shown version, in pixels.
@@ -45,9 +49,14 @@ public:
     /// The shown version; null before load() and until a version was loaded without an error.
     FrontEnd* frontEnd() const;
 
+    bool isSample() const;
+    QString name() const;
     QString problem() const;
     bool isLoaded() const;
     QSize size() const;
+
+    /// Loads the file again, for files whose changes are not noticed.
+    Q_INVOKABLE void reload();
 
     /// Loads the file again, without the state of the old version.
     Q_INVOKABLE void reset();

@@ -1,84 +1,125 @@
 import QtQuick 2.15
+import QtQuick.Controls 2.15
 import Tarnis 1.0
 import "blocks" as Blocks
-import "device" as Device
+import "theme"
 
-// The front end of a room controller. Its colors, fonts, sizes, texts and icons come from the library; the measured
-// values are made up.
+// A front end on the loaded resources: the sample, or a file of the user.
 Blocks.Page {
     id: page
 
-    title: "Device"
-    subtitle: "Sample front end"
-    isSearchable: View.page === "DeviceSettings"
-
-    readonly property var dims: Ui.dimensions.uiElementDimensions
     readonly property bool hasTextColor: ColorCatalog.revision >= 0
         && ColorCatalog.entries("Day/Text").some(entry => entry.group === "Day" && entry.key === "Text")
     readonly property var missing: (hasTextColor ? [] : ["the color Day/Text"])
-        .concat("Screen/width" in dims ? [] : ["the dimension Screen/width"])
-    readonly property bool isSample: missing.length === 0
-    property real targetTemperature: 21.5
+        .concat("Screen/width" in Ui.dimensions.uiElementDimensions ? [] : ["the dimension Screen/width"])
+    readonly property bool isUsable: !Preview.isSample || missing.length === 0
+    readonly property string message: !Ui.ready && Preview.isSample ? "Waiting for the resources."
+        : !isUsable ? "This page shows the front end of the sample device. The loaded resources are not made for it: they "
+            + "do not contain " + missing.join(" and ") + ". The other pages show all of them."
+        : !Preview.isLoaded ? Preview.problem : ""
+    readonly property int percent: Math.round(100 * frame.scaling)
 
-    clip: true
+    title: "Device"
+    subtitle: Preview.name
+    isSearchable: false
+    controls: [
+        Blocks.Caption {
+            height: Theme.controlHeight
+            rightPadding: Theme.small
+            verticalAlignment: Text.AlignVCenter
+            text: page.message !== "" ? ""
+                : Preview.size.width + " x " + Preview.size.height + " px, shown at " + page.percent + " %"
+        },
+        Button {
+            height: Theme.controlHeight
+            checkable: true
+            checked: true
+            text: "Fit"
+            ButtonGroup.group: scales
+            Accessible.description: "Scales the front end down to fit into the window"
+        },
+        Button {
+            id: fullSize
 
+            height: Theme.controlHeight
+            checkable: true
+            text: "1:1"
+            ButtonGroup.group: scales
+            Accessible.description: "Shows each pixel of the front end as one pixel"
+        },
+        Button {
+            height: Theme.controlHeight
+            text: "Reset"
+            Accessible.description: "Starts the front end again"
+            onClicked: Preview.reset()
+        }
+    ]
+
+    ButtonGroup {
+        id: scales
+    }
     Rectangle {
         anchors.fill: parent
-        color: "#707880"
+        color: Theme.surface
     }
-
-    Blocks.Title {
+    Text {
         anchors.centerIn: parent
-        width: Math.min(parent.width - 32, 560)
-        visible: !page.isSample
-        color: "white"
+        width: Math.min(parent.width - 2 * Theme.large, 640)
+        visible: page.message !== ""
+        color: Theme.text
+        font.pixelSize: Theme.bodySize
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
-        text: !Ui.ready ? "Waiting for the resources."
-            : "This page shows the front end of the sample device. The loaded resources are not made for it: they do not "
-              + "contain " + page.missing.join(" and ") + ". The other pages show all of them."
+        textFormat: Text.PlainText
+        text: page.message
     }
+    Blocks.Banner {
+        id: banner
 
-    Loader {
-        id: device
+        width: parent.width
+        text: Preview.isLoaded && page.isUsable ? Preview.problem : ""
+        onTriggered: Preview.reload()
+    }
+    Flickable {
+        id: area
 
-        x: Math.max(0, (parent.width - width * scale) / 2)
-        active: page.isSample
-        width: active ? page.dims["Screen/width"] : 0
-        height: active ? page.dims["Screen/height"] : 0
-        // A screen of the same size has no room for the toolbar.
-        scale: active ? Math.min(1, parent.width / width, parent.height / height) : 1
-        transformOrigin: Item.TopLeft
+        anchors.fill: parent
+        anchors.topMargin: banner.height
+        visible: page.message === ""
         clip: true
-        sourceComponent: Rectangle {
-            color: Ui.colors.getColor(Device.Theme.name, "Background")
+        boundsBehavior: Flickable.StopAtBounds
+        contentWidth: Math.max(width, frame.width)
+        contentHeight: Math.max(height, frame.height)
+        ScrollBar.horizontal: Blocks.ScrollHandle {}
+        ScrollBar.vertical: Blocks.ScrollHandle {}
 
-            Loader {
-                anchors.fill: parent
-                sourceComponent: View.page === "DeviceSettings" ? settings : home
+        Rectangle {
+            id: frame
+
+            readonly property int thickness: 1
+            readonly property real scaling: fullSize.checked ? 1
+                : Math.min(1, (area.width - 2 * thickness) / Preview.size.width,
+                           (area.height - 2 * thickness) / Preview.size.height)
+
+            x: Math.max(0, Math.floor((area.width - width) / 2))
+            y: Math.max(0, Math.floor((area.height - height) / 2))
+            width: device.width + 2 * thickness
+            height: device.height + 2 * thickness
+            color: "transparent"
+            border.width: thickness
+            border.color: device.activeFocus ? Theme.accent : Theme.line
+
+            FrontEndView {
+                id: device
+
+                x: frame.thickness
+                y: frame.thickness
+                width: Math.round(Preview.size.width * frame.scaling)
+                height: Math.round(Preview.size.height * frame.scaling)
+                preview: page.isUsable ? Preview : null
+                Accessible.role: Accessible.Pane
+                Accessible.name: "Front end"
             }
-            Loader {
-                anchors.fill: parent
-                active: View.page === "DeviceDialog"
-                sourceComponent: Device.AlarmDialog {}
-            }
-        }
-    }
-
-    Component {
-        id: home
-
-        Device.Home {
-            targetTemperature: page.targetTemperature
-            onTemperatureAdjusted: difference => page.targetTemperature += difference
-        }
-    }
-
-    Component {
-        id: settings
-
-        Device.Settings {
-            filter: View.search
         }
     }
 }

@@ -7,6 +7,7 @@ Rectangle {
 
     readonly property var dims: Ui.dimensions.uiElementDimensions
     readonly property var texts: Ui.texts.translatedTexts
+    signal closed()
 
     color: Ui.colors.getColor(Theme.name, "Scrim")
 
@@ -61,13 +62,13 @@ Rectangle {
 
             TextButton {
                 text: dialog.texts["text://Button/Cancel"]
-                onClicked: View.page = "Device"
+                onClicked: dialog.closed()
             }
             TextButton {
                 isPrimary: true
                 focus: true
                 text: dialog.texts["text://Button/Acknowledge"]
-                onClicked: View.page = "Device"
+                onClicked: dialog.closed()
             }
         }
     }

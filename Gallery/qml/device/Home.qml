@@ -8,11 +8,13 @@ Item {
     readonly property var dims: Ui.dimensions.uiElementDimensions
     readonly property var texts: Ui.texts.translatedTexts
     signal temperatureAdjusted(real difference)
+    signal settingsRequested()
+    signal alarmRequested()
 
     Header {
         title: home.texts["text://Room/LivingRoom"]
         leftIcon: "settings"
-        onLeftClicked: View.page = "DeviceSettings"
+        onLeftClicked: home.settingsRequested()
     }
     Flow {
         x: (parent.width - home.dims["Page/contentWidth"]) / 2
@@ -83,7 +85,7 @@ Item {
         }
         RoundButton {
             alias: "warning"
-            onClicked: View.page = "DeviceDialog"
+            onClicked: home.alarmRequested()
         }
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import Tarnis 1.0
+import "."
 
 Image {
     property string alias
@@ -8,6 +9,5 @@ Image {
     width: size
     height: size
     sourceSize: Qt.size(size, size)
-    // The fragment makes Image read a file again that was replaced under the same path.
-    source: Ui.icons.getIconPathAsFileUrl(alias, View.context) + "#" + IconCatalog.revision
+    source: Ui.icons.getIconPathAsFileUrl(alias, Theme.context)
 }

@@ -5,7 +5,6 @@ import "."
 Item {
     id: settings
 
-    property string filter
     readonly property var dims: Ui.dimensions.uiElementDimensions
     readonly property var texts: Ui.texts.translatedTexts
     readonly property var rows: [
@@ -17,11 +16,12 @@ Item {
           value: texts["text://Schedule/NextSwitch"].arg("17:30") },
         { alias: "calendar", title: texts["text://Schedule/HolidaysThisYear"], value: texts["text://Month/January"] }
     ]
+    signal closed()
 
     Header {
         title: settings.texts["text://Settings/Title"]
         leftIcon: "back"
-        onLeftClicked: View.page = "Device"
+        onLeftClicked: settings.closed()
     }
     ListView {
         x: settings.dims["Page/padding"]
@@ -29,7 +29,7 @@ Item {
         width: parent.width - 2 * x
         height: parent.height - y
         clip: true
-        model: settings.rows.filter(row => row.title.toLowerCase().includes(settings.filter.toLowerCase()))
+        model: settings.rows
         delegate: SettingsRow {
             width: ListView.view.width
             alias: modelData.alias

@@ -5,5 +5,6 @@ import Tarnis 1.0
 
 // Colors come in two groups, for day and night; the icon context selects one of them.
 QtObject {
-    readonly property string name: View.context === "nightMode" ? "Night" : "Day"
+    property string context: "defaultContext"
+    readonly property string name: context === "nightMode" ? "Night" : "Day"
 }
