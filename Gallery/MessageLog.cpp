@@ -19,6 +19,12 @@ bool isOurs(const QMessageLogContext& context)
     return qstrncmp(context.file, "TarnisLibrary/", 14) == 0 || qstrncmp(context.file, "Common/", 7) == 0;
 }
 
+// QML names a file by its URL.
+bool isFrontEnd(const QMessageLogContext& context)
+{
+    return qstrncmp(context.file, "file:", 5) == 0 || qstrncmp(context.file, "qrc:/qml/device/", 16) == 0;
+}
+
 } // namespace
 
 MessageLog::MessageLog()
@@ -51,6 +57,8 @@ QStringList MessageLog::takeNew()
 void MessageLog::handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     previousHandler(type, context, text);
+    if (isFrontEnd(context))
+        Q_EMIT current->recorded(text);
     if (!isOurs(context))
         return;
     {

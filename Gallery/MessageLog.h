@@ -9,8 +9,9 @@
 namespace Gallery
 {
 
-/// Keeps the log records of the library and of the platform, the newest first. All log records are passed on to the
-/// previous message handler. The QML singleton `Log` of the module `Tarnis`. Only one may exist at a time.
+/// Keeps the log records of the library, of the platform and of the shown front end, the newest first. All log records
+/// are passed on to the previous message handler. The QML singleton `Log` of the module `Tarnis`. Only one may exist at
+/// a time.
 class MessageLog : public QObject
 {
     Q_OBJECT
@@ -24,7 +25,7 @@ public:
 
     QVariantList records() const;
 
-    /// The texts logged since the last call, without duplicates.
+    /// The texts that library and platform have logged since the last call, without duplicates.
     QStringList takeNew();
 
 Q_SIGNALS:

@@ -23,7 +23,7 @@ struct Options {
     /// Whether to show a window until the user closes it.
     bool isInteractive() const;
 
-    QString qmlFile; ///< Empty for the sample front end.
+    QString qmlFile;   ///< Empty for the sample front end.
     QString directory; ///< Empty for the service.
     QString language;
     QString context;

@@ -122,7 +122,7 @@ void FrontEnd::create(QQmlComponent& component, const QVariantMap& properties)
         return;
     for (auto property = properties.begin(); property != properties.end(); ++property)
         set(property.key(), property.value());
-    adopt(component);
+    adopt();
     component.completeCreate();
     if (shownWindow == nullptr) {
         QQmlError error;
@@ -132,12 +132,10 @@ void FrontEnd::create(QQmlComponent& component, const QVariantMap& properties)
     }
 }
 
-void FrontEnd::adopt(QQmlComponent& component)
+void FrontEnd::adopt()
 {
     shownWindow = qobject_cast<QQuickWindow*>(object);
     if (shownWindow != nullptr) {
-        component.setInitialProperties(object, {{QStringLiteral("visible"), false},
-                                                {QStringLiteral("visibility"), QWindow::Hidden}});
         followWindow();
         return;
     }
@@ -153,6 +151,7 @@ void FrontEnd::adopt(QQmlComponent& component)
 
 void FrontEnd::followWindow()
 {
+    shownWindow->setParent(&host);
     shownWindow->installEventFilter(this);
     connect(shownWindow, &QWindow::widthChanged, this, &FrontEnd::spreadSize);
     connect(shownWindow, &QWindow::heightChanged, this, &FrontEnd::spreadSize);

@@ -10,6 +10,7 @@
 #include <QSize>
 #include <QStringList>
 #include <QVariantMap>
+#include <QWindow>
 
 #include <memory>
 
@@ -73,7 +74,7 @@ protected:
 
 private:
     void create(QQmlComponent& component, const QVariantMap& properties);
-    void adopt(QQmlComponent& component);
+    void adopt();
     void followWindow();
     void spreadSize();
     void findFailedLoaders();
@@ -83,7 +84,8 @@ private:
     QQmlEngine engine;
     QList<QQmlError> errors;
     QList<QQmlError> warnings;
-    QObject* object = nullptr;             // deleted before the window and the engine
+    QObject* object = nullptr;                // deleted before the window and the engine
+    QWindow host;                             // never shown, so that its child windows are not either
     std::unique_ptr<QQuickWindow> itemWindow; // of a root object that is an Item
     QQuickWindow* shownWindow = nullptr;
     QSize ownSize;

@@ -39,10 +39,15 @@ bool isSimple(int type)
 // Properties that the layout, the gallery or an input device changes.
 bool isDerived(const QObject& object, const QString& name)
 {
-    static const QSet<QString> ofItems{
-        QStringLiteral("x"),           QStringLiteral("y"),           QStringLiteral("width"),
-        QStringLiteral("height"),      QStringLiteral("position"),    QStringLiteral("size"),
-        QStringLiteral("implicitWidth"), QStringLiteral("implicitHeight"), QStringLiteral("down")};
+    static const QSet<QString> ofItems{QStringLiteral("x"),
+                                       QStringLiteral("y"),
+                                       QStringLiteral("width"),
+                                       QStringLiteral("height"),
+                                       QStringLiteral("position"),
+                                       QStringLiteral("size"),
+                                       QStringLiteral("implicitWidth"),
+                                       QStringLiteral("implicitHeight"),
+                                       QStringLiteral("down")};
     static const QSet<QString> ofWindows{QStringLiteral("visible"), QStringLiteral("visibility")};
     return ofItems.contains(name) || (object.isWindowType() && ofWindows.contains(name));
 }

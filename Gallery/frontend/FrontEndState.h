@@ -24,8 +24,8 @@ public:
     /// Takes the present values of the objects that have been created since the last call as their original ones.
     void observe();
 
-    /// Makes the changes of an older version here, too. What its author has changed since wins: a property is left alone
-    /// if it has a binding or another original value than in the older version.
+    /// Makes the changes of an older version here, too. What its author has changed since wins: a property is left
+    /// alone if it has a binding or another original value than in the older version.
     void restore(const FrontEndState& older);
 
 private:

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "Gallery/frontend/FrontEndInput.h"
 #include "Gallery/frontend/LivePreview.h"
 
 #include <QElapsedTimer>
 #include <QImage>
 #include <QQuickPaintedItem>
-#include <QSet>
 #include <QTimer>
 
 namespace Gallery
@@ -38,19 +38,12 @@ private:
     void follow();
     void scheduleDrawing();
     void draw();
-    bool passOn(QEvent& event, QQuickWindow& window);
-    void passMouse(const QMouseEvent& event, QQuickWindow& window);
-    void passHover(const QHoverEvent& event, QQuickWindow& window);
-    bool passWheel(const QWheelEvent& event, QQuickWindow& window);
-    void passTouch(const QTouchEvent& event, QQuickWindow& window);
-    bool passKey(QKeyEvent& event, QQuickWindow& window);
-    QPointF toFrontEnd(const QPointF& position) const;
 
     LivePreview* source = nullptr;
     QImage picture;
     QTimer delay;
     QElapsedTimer sinceDrawn;
-    QSet<const QQuickItem*> tabbed; // the items that had the focus since the front end got it
+    FrontEndInput input;
 };
 
 } // namespace Gallery

@@ -1,0 +1,128 @@
+#include "Gallery/frontend/FrontEndInput.h"
+
+#include <QCoreApplication>
+#include <QQuickWindow>
+#include <QScopedValueRollback>
+
+#include <private/qguiapplication_p.h>
+#include <private/qshortcutmap_p.h>
+
+namespace Gallery
+{
+
+namespace
+{
+
+// Qt triggers shortcuts only in the window that has the focus of the window system. One of them closes popups.
+bool trigger(QKeyEvent& event, QQuickWindow& window)
+{
+    QKeyEvent replacement(QEvent::ShortcutOverride, event.key(), event.modifiers(), event.text());
+    replacement.ignore();
+    QCoreApplication::sendEvent(&window, &replacement);
+    if (replacement.isAccepted())
+        return false;
+    const QScopedValueRollback<QWindow*> focus(QGuiApplicationPrivate::focus_window, &window);
+    return QGuiApplicationPrivate::instance()->shortcutMap.tryShortcut(&event);
+}
+
+} // namespace
+
+bool FrontEndInput::pass(QEvent& event, QQuickWindow& window, double scale)
+{
+    factor = scale;
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        passMouse(static_cast<QMouseEvent&>(event), window);
+        return true;
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        passHover(static_cast<QHoverEvent&>(event), window);
+        return true;
+    case QEvent::HoverLeave: {
+        QEvent leave(QEvent::Leave);
+        return QCoreApplication::sendEvent(&window, &leave);
+    }
+    case QEvent::Wheel:
+        return passWheel(static_cast<QWheelEvent&>(event), window);
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        passTouch(static_cast<QTouchEvent&>(event), window);
+        return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return passKey(static_cast<QKeyEvent&>(event), window);
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        visited.clear();
+        QCoreApplication::sendEvent(&window, &event);
+        return false;
+    default:
+        return false;
+    }
+}
+
+void FrontEndInput::passMouse(const QMouseEvent& event, QQuickWindow& window)
+{
+    const QPointF position = factor * event.localPos();
+    QMouseEvent passed(event.type(), position, position, event.screenPos(), event.button(), event.buttons(),
+                       event.modifiers());
+    passed.setTimestamp(event.timestamp());
+    QCoreApplication::sendEvent(&window, &passed);
+}
+
+void FrontEndInput::passHover(const QHoverEvent& event, QQuickWindow& window)
+{
+    QMouseEvent move(QEvent::MouseMove, event.posF(), Qt::NoButton, Qt::NoButton, event.modifiers());
+    move.setTimestamp(event.timestamp());
+    passMouse(move, window);
+}
+
+// A front end that scrolls no further lets the page scroll.
+bool FrontEndInput::passWheel(const QWheelEvent& event, QQuickWindow& window)
+{
+    QWheelEvent passed(factor * event.position(), event.globalPosition(), event.pixelDelta(), event.angleDelta(),
+                       event.buttons(), event.modifiers(), event.phase(), event.inverted());
+    passed.setTimestamp(event.timestamp());
+    QCoreApplication::sendEvent(&window, &passed);
+    return passed.isAccepted();
+}
+
+void FrontEndInput::passTouch(const QTouchEvent& event, QQuickWindow& window)
+{
+    QList<QTouchEvent::TouchPoint> points = event.touchPoints();
+    for (QTouchEvent::TouchPoint& point : points) {
+        point.setStartPos(factor * point.startPos());
+        point.setLastPos(factor * point.lastPos());
+        point.setPos(factor * point.pos());
+        point.setStartScenePos(point.startPos());
+        point.setLastScenePos(point.lastPos());
+        point.setScenePos(point.pos());
+    }
+    QTouchEvent passed(event.type(), event.device(), event.modifiers(), event.touchPointStates(), points);
+    passed.setWindow(&window);
+    passed.setTimestamp(event.timestamp());
+    QCoreApplication::sendEvent(&window, &passed);
+}
+
+bool FrontEndInput::passKey(QKeyEvent& event, QQuickWindow& window)
+{
+    if (event.type() == QEvent::KeyPress && trigger(event, window))
+        return true;
+    event.accept();
+    QCoreApplication::sendEvent(&window, &event);
+    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    if (!isTab || event.type() != QEvent::KeyPress)
+        return event.isAccepted();
+    // The key leaves the front end when it comes to an item for the second time.
+    const bool isNew = !visited.contains(window.activeFocusItem());
+    visited.insert(window.activeFocusItem());
+    event.setAccepted(isNew);
+    return isNew;
+}
+
+} // namespace Gallery
