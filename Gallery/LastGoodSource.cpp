@@ -1,5 +1,6 @@
 #include "Gallery/LastGoodSource.h"
 
+#include "Gallery/PseudoLanguage.h"
 #include "ResourceFormat/Directory.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/PublishedResources.h"
@@ -121,11 +122,14 @@ void LastGoodSource::copyTexts(Answers& answers, QStringList& faults)
         shown.append(files.update(file.filePath(), copies.textFolder() + QLatin1Char('/') + file.fileName(),
                                   FileFaults::ofTexts, faults));
     }
+    shown += PseudoLanguage::writeFiles(copies.textFolder(), shown);
     for (const QFileInfo& copy : copies.languageFiles()) {
         if (!shown.contains(copy.filePath()))
             QFile::remove(copy.filePath());
     }
+    const QStringList languages = answers.languages; // without the pseudo languages
     answers.setTexts(copies.path());
+    answers.languages = languages;
 }
 
 // Everybody who reads a faulty table logs its faults, so nobody gets it.

@@ -123,7 +123,8 @@ QString Options::check(const Session& session) const
 {
     const Catalogs& catalogs = session.catalogs;
     const QString wrongPage = unknown("page", page, session.view.pages());
-    const QString wrongLanguage = unknown("language", language, session.ui.languages());
+    const QStringList languages = catalogs.texts.languages() + catalogs.texts.pseudoLanguages();
+    const QString wrongLanguage = unknown("language", language, languages);
     const QString wrongContext = unknown("context", context, catalogs.icons.contexts());
     const QString wrongDisplay =
         display.isEmpty() ? QString() : unknown("display size", display, catalogs.dimensions.displays());

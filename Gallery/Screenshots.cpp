@@ -40,7 +40,7 @@ bool Screenshots::take(const QString& path)
     QDeadlineTimer settled(settleMilliseconds);
     while (!settled.hasExpired() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, settleMilliseconds);
-        if (!window.isExposed())
+        if (!window.isExposed() || session.catalogs.texts.isReading())
             settled = QDeadlineTimer(settleMilliseconds);
     }
     return window.isExposed() && window.grabWindow().save(path);

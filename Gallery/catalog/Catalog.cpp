@@ -21,13 +21,17 @@ void Catalog::start()
     follow();
 }
 
+void Catalog::announce()
+{
+    ++currentRevision;
+    Q_EMIT changed();
+}
+
 void Catalog::follow()
 {
     const QmlHost::Answers old = std::exchange(answers, ui.answers());
-    if (!update(old, answers))
-        return;
-    ++currentRevision;
-    Q_EMIT changed();
+    if (update(old, answers))
+        announce();
 }
 
 } // namespace Gallery

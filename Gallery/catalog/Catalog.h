@@ -33,6 +33,9 @@ protected:
     /// Reads the answers for the first time. Call it at the end of the constructor of each kind.
     void start();
 
+    /// Increases the revision. For kinds that are read on a worker thread.
+    void announce();
+
 private:
     /// Reads the resources of this kind again if they have changed, and tells whether they have.
     virtual bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) = 0;

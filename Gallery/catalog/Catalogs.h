@@ -14,18 +14,18 @@ struct Catalogs {
     /// `tarnisUi` must outlive the catalogs.
     explicit Catalogs(const TarnisUi& tarnisUi)
         : colors(tarnisUi)
-        , fonts(tarnisUi)
+        , texts(tarnisUi)
+        , fonts(tarnisUi, texts)
         , dimensions(tarnisUi)
         , icons(tarnisUi)
-        , texts(tarnisUi)
     {
     }
 
     ColorCatalog colors;
+    TextCatalog texts;
     FontCatalog fonts;
     DimensionCatalog dimensions;
     IconCatalog icons;
-    TextCatalog texts;
 };
 
 } // namespace Gallery

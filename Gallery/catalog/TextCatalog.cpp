@@ -1,61 +1,119 @@
 #include "Gallery/catalog/TextCatalog.h"
 
+#include "Gallery/PseudoLanguage.h"
 #include "ResourceFormat/Language.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
 namespace Gallery
 {
 
-namespace Language = ResourceFormat::Language;
-
 TextCatalog::TextCatalog(const TarnisUi& tarnisUi)
     : Catalog(tarnisUi)
+    , texts(std::make_shared<TextTable>())
 {
+    worker.setMaxThreadCount(1);
     start();
 }
 
-QStringList TextCatalog::urls(const QString& search) const
+QStringList TextCatalog::languages() const
+{
+    return languageNames;
+}
+
+QStringList TextCatalog::pseudoLanguages() const
+{
+    if (!languageNames.contains(ResourceFormat::Language::secondFallback()))
+        return {};
+    QStringList names = PseudoLanguage::names();
+    for (const QString& language : languageNames)
+        names.removeOne(language);
+    return names;
+}
+
+QString TextCatalog::label(const QString& language) const
+{
+    return languageNames.contains(language) ? language : PseudoLanguage::label(language);
+}
+
+QStringList TextCatalog::urls(const QString& search, bool missingOnly) const
 {
     QStringList matches;
-    for (const QString& url : urlsOf(Language::secondFallback())) {
-        const auto matchesIn = [&](const QString& language) {
-            return text(url, language).contains(search, Qt::CaseInsensitive);
-        };
-        if (url.contains(search, Qt::CaseInsensitive) || std::any_of(languages.begin(), languages.end(), matchesIn))
-            matches.append(url);
+    const QString folded = search.toCaseFolded();
+    for (int index = 0; index < texts->urls.size(); ++index) {
+        if (texts->searchTexts.at(index).contains(folded) && (!missingOnly || isMissingInAnyLanguage(index)))
+            matches.append(texts->urls.at(index));
     }
     return matches;
 }
 
-QString TextCatalog::text(const QString& url, const QString& language) const
+QVariantList TextCatalog::cells(const QString& url) const
 {
-    return textManager == nullptr ? QString() : textManager->getText(url, language);
+    QVariantList row;
+    const auto found = std::lower_bound(texts->urls.begin(), texts->urls.end(), url);
+    if (found == texts->urls.end() || *found != url)
+        return row;
+    for (const TextColumn& column : texts->columns)
+        row.append(QVariant::fromValue(column.cells.at(static_cast<int>(found - texts->urls.begin()))));
+    return row;
 }
 
-bool TextCatalog::isMissing(const QString& url, const QString& language) const
+int TextCatalog::countMissing() const
 {
-    QStringList chain = Language::fallbackChain(language);
-    // The second fallback is part of every chain, but only its own variants are written in that language.
-    if (QLocale(language).language() != QLocale(Language::secondFallback()).language())
-        chain.removeAll(Language::secondFallback());
-    return std::none_of(chain.begin(), chain.end(), [&](const QString& name) { return urlsOf(name).contains(url); });
+    return count(&TextCell::isMissing);
+}
+
+int TextCatalog::countIdentical() const
+{
+    return count(&TextCell::isIdentical);
+}
+
+bool TextCatalog::isReading() const
+{
+    return taken != requested;
+}
+
+const TextTable& TextCatalog::table() const
+{
+    return *texts;
 }
 
 bool TextCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fresh)
 {
     if (fresh.textFolder == old.textFolder)
         return false;
-    languages = fresh.languages;
-    textManager = std::make_unique<TextManager>(fresh.textFolder.value, Language::secondFallback());
-    return true;
+    languageNames = fresh.languages;
+    worker.clear();
+    worker.start([this, number = ++requested, folder = fresh.textFolder.value, names = languageNames + pseudoLanguages()] {
+        const auto table = std::make_shared<const TextTable>(TextTable::read(folder, names));
+        QMetaObject::invokeMethod(this, [this, number, table] { take(number, table); });
+    });
+    Q_EMIT languagesChanged();
+    return false;
 }
 
-QStringList TextCatalog::urlsOf(const QString& language) const
+void TextCatalog::take(int number, const std::shared_ptr<const TextTable>& fresh)
 {
-    return textManager == nullptr ? QStringList() : textManager->getAvailableUrls(Language::fileName(language));
+    taken = number;
+    texts = fresh;
+    announce();
+}
+
+int TextCatalog::count(bool TextCell::* fact) const
+{
+    int sum = 0;
+    for (const TextColumn& column : texts->columns) {
+        if (languageNames.contains(column.language))
+            sum += static_cast<int>(std::count_if(column.cells.begin(), column.cells.end(), std::mem_fn(fact)));
+    }
+    return sum;
+}
+
+bool TextCatalog::isMissingInAnyLanguage(int index) const
+{
+    return std::any_of(texts->columns.begin(), texts->columns.end(), [&](const TextColumn& column) {
+        return column.cells.at(index).isMissing && languageNames.contains(column.language);
+    });
 }
 
 } // namespace Gallery

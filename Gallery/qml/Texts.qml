@@ -1,62 +1,102 @@
 import QtQuick 2.15
+import QtQuick.Controls 2.15
 import Tarnis 1.0
 import "blocks" as Blocks
+import "texts" as Texts
 import "theme"
 
+// One column per language. The column with the URLs stays in place while the others scroll.
 Blocks.Page {
     id: page
 
-    title: "Texts"
-    subtitle: list.count + " texts in " + Ui.languages.length + " languages"
-    isEmpty: list.count === 0
-    emptyText: "The resources contain no texts."
+    readonly property var languages: TextCatalog.hasPseudoColumns
+        ? TextCatalog.languages.concat(TextCatalog.pseudoLanguages) : TextCatalog.languages
+    readonly property int missing: TextCatalog.revision >= 0 ? TextCatalog.countMissing() : 0
+    readonly property int identical: TextCatalog.revision >= 0 ? TextCatalog.countIdentical() : 0
+    readonly property int total: TextCatalog.revision >= 0 ? TextCatalog.urls("", false).length : 0
 
+    title: "Texts"
+    subtitle: total + " texts in " + TextCatalog.languages.length + " languages, " + missing + " missing, " + identical
+        + " identical to English"
+    isEmpty: list.count === 0
+    emptyText: total > 0 ? "No text is missing." : "The resources contain no texts."
+    controls: [
+        CheckBox {
+            height: Theme.controlHeight
+            text: "Missing only (" + page.missing + ")"
+            checked: TextCatalog.isMissingOnly
+            onToggled: TextCatalog.isMissingOnly = checked
+        },
+        CheckBox {
+            height: Theme.controlHeight
+            text: "Pseudo languages"
+            enabled: TextCatalog.pseudoLanguages.length > 0
+            checked: TextCatalog.hasPseudoColumns
+            onToggled: TextCatalog.hasPseudoColumns = checked
+        }
+    ]
+
+    Texts.Columns {
+        id: layout
+
+        width: parent.width
+        count: page.languages.length
+    }
+    Texts.Line {
+        id: header
+
+        width: parent.width
+        columns: layout
+        url: "URL"
+        isHeader: true
+        model: page.languages
+        cell: Blocks.Title {
+            width: layout.columnWidth
+            rightPadding: Theme.medium
+            text: TextCatalog.label(modelData) + (modelData === Ui.language ? " (shown)" : "")
+        }
+    }
     Blocks.Rows {
         id: list
 
-        anchors.fill: parent
-        readonly property int columnWidth: (width - 24) / (Ui.languages.length + 1)
-
-        rows: TextCatalog.revision >= 0 ? TextCatalog.urls(View.search) : []
-        header: Row {
-            x: 8
-            height: 28
-            Repeater {
-                model: ["URL"].concat(Ui.languages)
-                Blocks.Title {
-                    width: list.columnWidth
-                    text: modelData + (modelData === Ui.language ? " (shown)" : "")
-                }
-            }
-        }
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: layout.isScrollable ? scrollBar.height : 0
+        width: parent.width
+        rows: TextCatalog.revision >= 0 ? TextCatalog.urls(View.search, TextCatalog.isMissingOnly) : []
         delegate: Blocks.Entry {
-            readonly property string url: modelData
-
-            width: page.width
-            expression: 'Ui.texts.translatedTexts["' + url + '"]'
-            contentItem: Row {
-                leftPadding: 2
-                Blocks.Caption {
-                    width: list.columnWidth
-                    rightPadding: 6
-                    wrapMode: Text.WrapAnywhere
-                    text: url
-                }
-                Repeater {
-                    model: Ui.languages
-                    Blocks.Caption {
-                        readonly property bool isMissing: TextCatalog.revision >= 0 && TextCatalog.isMissing(url, modelData)
-
-                        width: list.columnWidth
-                        rightPadding: 6
-                        color: isMissing ? Theme.error : Theme.text
-                        font.pixelSize: 13
-                        wrapMode: Text.Wrap
-                        text: isMissing ? "missing" : modelData === Ui.language ? Ui.texts.translatedTexts[url]
-                                                                                   : TextCatalog.text(url, modelData)
-                    }
+            width: list.width
+            padding: 0
+            expression: 'Ui.texts.translatedTexts["' + modelData + '"]'
+            contentItem: Texts.Line {
+                columns: layout
+                url: modelData
+                model: TextCatalog.revision >= 0 ? TextCatalog.cells(modelData).slice(0, layout.count) : []
+                cell: Texts.Cell {
+                    width: layout.columnWidth
                 }
             }
         }
+        Keys.onLeftPressed: layout.scroll(-1)
+        Keys.onRightPressed: layout.scroll(1)
+
+        WheelHandler {
+            orientation: Qt.Horizontal
+            target: null
+            onWheel: event => layout.scroll(-event.angleDelta.x / 120)
+        }
+    }
+    ScrollBar {
+        id: scrollBar
+
+        x: layout.urlWidth
+        anchors.bottom: parent.bottom
+        width: parent.width - x
+        orientation: Qt.Horizontal
+        policy: layout.isScrollable ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        size: layout.visibleWidth / layout.contentWidth
+        position: layout.offset / layout.contentWidth
+        onPositionChanged: if (pressed) layout.offset = position * layout.contentWidth
+        Accessible.name: "Scroll the languages"
     }
 }

@@ -7,6 +7,8 @@ ComboBox {
 
     property string label
     property string value
+    property var labelOf: value => value // what the list shows for a value
+    property int listWidth: width
     signal chosen(string value)
 
     implicitHeight: Theme.controlHeight
@@ -17,8 +19,16 @@ ComboBox {
     Accessible.name: label
     ToolTip.text: label
     ToolTip.visible: hovered
+    popup.width: listWidth
     onActivated: index => chosen(model[index])
 
+    delegate: ItemDelegate {
+        width: ListView.view.width
+        font.bold: choice.currentIndex === index
+        font.pixelSize: Theme.bodySize
+        highlighted: choice.highlightedIndex === index
+        text: choice.labelOf(modelData)
+    }
     indicator: Text {
         x: choice.width - width - Theme.small
         y: (choice.height - height) / 2

@@ -62,7 +62,9 @@ Rectangle {
         Choice {
             Layout.preferredWidth: 96
             label: "Text language"
-            model: Ui.languages.length > 0 ? Ui.languages : [Ui.language]
+            model: Ui.languages.length > 0 ? Ui.languages.concat(TextCatalog.pseudoLanguages) : [Ui.language]
+            labelOf: name => TextCatalog.label(name)
+            listWidth: 200
             value: Ui.language
             onChosen: value => Ui.language = value
         }
