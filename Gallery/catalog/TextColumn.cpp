@@ -109,7 +109,10 @@ void TextColumn::chooseSample()
             best = cell.text;
         }
     }
-    sample = QLocale(language).toString(21.5) + QStringLiteral(" °C  ") + best;
+    const QLocale locale(language);
+    // Its first letter is the unit's.
+    const QString direction = locale.textDirection() == Qt::RightToLeft ? QString(QChar(0x200F)) : QString();
+    sample = direction + locale.toString(21.5) + QStringLiteral(" °C  ") + best;
 }
 
 } // namespace Gallery

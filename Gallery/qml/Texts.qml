@@ -33,13 +33,18 @@ Blocks.Page {
             enabled: TextCatalog.pseudoLanguages.length > 0
             checked: TextCatalog.hasPseudoColumns
             onToggled: TextCatalog.hasPseudoColumns = checked
+        },
+        Blocks.Caption {
+            height: Theme.controlHeight
+            verticalAlignment: Text.AlignVCenter
+            text: page.identical + " identical to English"
         }
     ]
 
     Texts.Columns {
         id: layout
 
-        width: parent.width
+        anchors.fill: parent
         count: page.languages.length
     }
     Texts.Line {
@@ -52,7 +57,8 @@ Blocks.Page {
         model: page.languages
         cell: Blocks.Title {
             width: layout.columnWidth
-            rightPadding: Theme.medium
+            leftPadding: Theme.small
+            rightPadding: Theme.small
             text: TextCatalog.label(modelData) + (modelData === Ui.language ? " (shown)" : "")
         }
     }

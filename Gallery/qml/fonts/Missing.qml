@@ -33,6 +33,7 @@ Column {
         color: Theme.text
         font.pixelSize: Theme.bodySize
         textFormat: Text.PlainText
-        text: coverage.missing.slice(0, shown).join("   ") + (hidden > 0 ? "   and " + hidden + " more" : "")
+        // Starts with a left-to-right mark, so that the codes stay beside their characters in every script.
+        text: "\u200E" + coverage.missing.slice(0, shown).join("   ") + (hidden > 0 ? "   and " + hidden + " more" : "")
     }
 }

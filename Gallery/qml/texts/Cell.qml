@@ -4,10 +4,11 @@ import "../theme"
 
 // A text as the device shows it in one language.
 Column {
+    leftPadding: Theme.small
     spacing: 2
 
     Text {
-        width: parent.width - Theme.medium
+        width: parent.width - 2 * Theme.small
         color: modelData.isMissing ? Theme.textSecondary : Theme.text
         font.italic: modelData.isMissing
         font.pixelSize: Theme.bodySize

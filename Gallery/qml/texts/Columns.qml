@@ -1,8 +1,10 @@
 import QtQuick 2.15
 import "../theme"
 
-// The widths of the columns, and how far those of the languages are scrolled, in pixels.
+// The widths of the columns, how far those of the languages are scrolled, in pixels, and the lines between them.
 Item {
+    id: columns
+
     property int count
     property real offset: 0
 
@@ -18,4 +20,21 @@ Item {
         offset = Math.max(0, Math.min(end, offset + columns * columnWidth))
     }
     onEndChanged: offset = Math.min(offset, end)
+
+    Item {
+        x: columns.urlWidth
+        width: columns.visibleWidth
+        height: parent.height
+        clip: true
+
+        Repeater {
+            model: columns.count
+            Rectangle {
+                x: index * columns.columnWidth - columns.offset
+                width: 1
+                height: parent.height
+                color: Theme.line
+            }
+        }
+    }
 }
