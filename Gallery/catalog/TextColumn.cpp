@@ -109,10 +109,7 @@ void TextColumn::chooseSample()
             best = cell.text;
         }
     }
-    const QLocale locale(language);
-    // Its first letter is the unit's.
-    const QString direction = locale.textDirection() == Qt::RightToLeft ? QString(QChar(0x200F)) : QString();
-    sample = direction + locale.toString(21.5) + QStringLiteral(" °C  ") + best;
+    sample = QLocale(language).toString(21.5) + QStringLiteral("°  ") + best;
 }
 
 } // namespace Gallery
