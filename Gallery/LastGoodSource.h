@@ -21,6 +21,11 @@ public:
     void start() override;
     void ask() override;
 
+Q_SIGNALS:
+    /// The files in the directory `originals` have been read, and `copies` is the directory with their copies. It comes
+    /// after each answered(), which may tell of the same answers as before.
+    void filesRead(const QString& originals, const QString& copies);
+
 private:
     void passOn(const QmlHost::Answers& answers, const QString& problem);
     void copyDimensions(QmlHost::Answers& answers, QStringList& faults);

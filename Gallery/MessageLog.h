@@ -16,7 +16,8 @@ class MessageLog : public QObject
 {
     Q_OBJECT
 
-    /// Maps with `text` and `count`.
+    /// Maps with `text`, `count`, `severity` (`error`, `warning` or `information`) and `source` (`library`, `platform`
+    /// or `front end`).
     Q_PROPERTY(QVariantList records READ records NOTIFY changed)
 
 public:
@@ -28,14 +29,20 @@ public:
     /// The texts that library and platform have logged since the last call, without duplicates.
     QStringList takeNew();
 
+    /// Replaces the directory of copies by that of the originals in the texts.
+    void showOriginals(const QString& originals, const QString& copies);
+
 Q_SIGNALS:
     void changed();
-    void recorded(const QString& text);
+    void recorded(const QString& text, const QString& severity, const QString& source);
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text);
-    void append(const QString& text);
+    void append(const QString& loggedText, const QString& severity, const QString& source);
+    QString shown(QString text) const;
 
+    QString originalDirectory;
+    QString copyDirectory;
     QVariantList recordMaps;
     QMutex mutex; // any thread may log
     QStringList newTexts;

@@ -26,7 +26,7 @@ struct Parser : QCommandLineParser {
         addPositionalArgument(QStringLiteral("DIR"),
                               QStringLiteral("Resource directory to show. It needs no bus and no service."),
                               QStringLiteral("[DIR]"));
-        addOptions({qml, language, context, display, page, theme, size, screenshot, screenshotAll, dump});
+        addOptions({qml, language, context, display, page, theme, size, editor, screenshot, screenshotAll, dump});
     }
 
     const QString name = QStringLiteral("NAME");
@@ -61,6 +61,11 @@ struct Parser : QCommandLineParser {
         QStringLiteral("dump"),
         QStringLiteral("Print every lookup with its answer as JSON and exit. Needs no display: unless QT_QPA_PLATFORM "
                        "is set, the screen is one of 240x320 pixels and 96 dots per inch.")};
+    const QCommandLineOption editor{
+        QStringLiteral("editor"),
+        QStringLiteral("Program that opens a file from the page Findings, with {file}, {line} and {column}; "
+                       "the default is the program of the desktop."),
+        QStringLiteral("COMMAND")};
     const QCommandLineOption help = addHelpOption();
     const QCommandLineOption version = addVersionOption();
 };
@@ -115,6 +120,7 @@ QString Options::parse(int argc, char* argv[])
         return QStringLiteral("\"%1\" is not a window size; write it as 1280x800").arg(parser.value(parser.size));
     screenshot = parser.value(parser.screenshot);
     screenshotDirectory = parser.value(parser.screenshotAll);
+    editor = parser.value(parser.editor);
     isDump = parser.isSet(parser.dump);
     return QString();
 }

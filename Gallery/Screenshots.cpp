@@ -6,8 +6,10 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
+#include <QQuickItem>
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace Gallery
@@ -26,6 +28,16 @@ void showProgress(int done, int all)
     std::fprintf(stderr, "\r[%s] %d/%d%s", bar.constData(), done, all, done == all ? "\n" : "");
 }
 
+// Whether a picture in the item is loaded on another thread.
+bool isLoading(const QQuickItem& item)
+{
+    constexpr int loading = 2; // Image.Loading
+    if (item.inherits("QQuickImageBase") && item.property("status").toInt() == loading)
+        return true;
+    const QList<QQuickItem*> children = item.childItems();
+    return std::any_of(children.begin(), children.end(), [](const QQuickItem* child) { return isLoading(*child); });
+}
+
 } // namespace
 
 Screenshots::Screenshots(QQuickWindow& quickWindow, Session& gallerySession)
@@ -40,7 +52,8 @@ bool Screenshots::take(const QString& path)
     QDeadlineTimer settled(settleMilliseconds);
     while (!settled.hasExpired() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, settleMilliseconds);
-        if (!window.isExposed() || session.catalogs.texts.isReading())
+        if (!window.isExposed() || session.catalogs.texts.isReading() || session.findings.isRunning()
+            || isLoading(*window.contentItem()))
             settled = QDeadlineTimer(settleMilliseconds);
     }
     return window.isExposed() && window.grabWindow().save(path);

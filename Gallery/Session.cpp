@@ -10,8 +10,21 @@
 namespace Gallery
 {
 
+namespace
+{
+
+std::unique_ptr<QmlHost::Source> withCopies(std::unique_ptr<QmlHost::Source> original, Session& session)
+{
+    auto source = std::make_unique<LastGoodSource>(std::move(original));
+    QObject::connect(source.get(), &LastGoodSource::filesRead, &session.log, &MessageLog::showOriginals);
+    QObject::connect(source.get(), &LastGoodSource::filesRead, &session.findings, &Findings::check);
+    return source;
+}
+
+} // namespace
+
 Session::Session(std::unique_ptr<QmlHost::Source> source)
-    : ui(std::make_unique<LastGoodSource>(std::move(source)))
+    : ui(withCopies(std::move(source), *this))
     , catalogs(ui)
     , view(ui)
     , preview(ui, view)
@@ -49,6 +62,7 @@ void Session::publish()
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Preview", &preview);
     qmlRegisterType<FrontEndView>("Tarnis", 1, 0, "FrontEndView");
+    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Findings", &findings);
 }
 
 } // namespace Gallery

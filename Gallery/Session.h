@@ -3,6 +3,7 @@
 #include "Gallery/MessageLog.h"
 #include "Gallery/View.h"
 #include "Gallery/catalog/Catalogs.h"
+#include "Gallery/findings/Findings.h"
 #include "Gallery/frontend/LivePreview.h"
 #include "QmlHost/TarnisUi.h"
 
@@ -26,6 +27,7 @@ struct Session {
     void publish();
 
     MessageLog log;
+    Findings findings;
     TarnisUi ui;
     Catalogs catalogs;
     View view;

@@ -13,7 +13,8 @@ View::View(TarnisUi& tarnisUi)
     : ui(tarnisUi)
     , pageNames{QStringLiteral("Device"), QStringLiteral("DeviceSettings"), QStringLiteral("DeviceDialog"),
                 QStringLiteral("Colors"), QStringLiteral("Fonts"),          QStringLiteral("Dimensions"),
-                QStringLiteral("Icons"),  QStringLiteral("Texts"),          QStringLiteral("Log")}
+                QStringLiteral("Icons"),  QStringLiteral("Texts"),          QStringLiteral("Findings"),
+                QStringLiteral("Log")}
     , pageName(pageNames.constFirst())
     , contextName(TarnisIconHandler::defaultContextPathKey)
     , themeName(themes().constFirst())

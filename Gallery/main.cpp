@@ -58,8 +58,10 @@ int show(Session& session, const Options& options)
     const QQmlApplicationEngine engine(QUrl(QStringLiteral("qrc:/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return fail(Failure, QStringLiteral("the window could not be built"));
-    if (options.isInteractive())
+    if (options.isInteractive()) {
+        session.findings.start();
         return QGuiApplication::exec();
+    }
     return takePictures(*qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst()), session, options);
 }
 
@@ -73,6 +75,7 @@ void apply(const Options& options, Session& session)
     session.view.setContext(options.context);
     session.view.setTheme(options.theme);
     session.view.setWindowSize(options.windowSize);
+    session.findings.setEditor(Editor(options.editor));
 }
 
 int run(const Options& options)

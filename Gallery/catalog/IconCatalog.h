@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Gallery/catalog/Catalog.h"
+#include "Gallery/catalog/IconFile.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -22,17 +24,22 @@ public:
 
     QStringList contexts() const;
 
-    /// Sorted.
+    /// Sorted. The text is searched for in the aliases and in the names of their files.
     Q_INVOKABLE QStringList aliases(const QString& search) const;
 
     /// The context whose icon is shown when `context` is requested; empty if there is none.
     Q_INVOKABLE QString effectiveContext(const QString& alias, const QString& context) const;
+
+    /// The file that is shown when `context` is requested. It is read once, at the first call.
+    Q_INVOKABLE Gallery::IconFile file(const QString& alias, const QString& context) const;
 
 private:
     bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) override;
 
     TarnisIconHandler::IconMap iconMap;
     QStringList contextNames;
+    QString iconFolder;
+    mutable QHash<QString, IconFile> files; // by name; those that were asked for
 };
 
 } // namespace Gallery

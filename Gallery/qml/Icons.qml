@@ -1,61 +1,95 @@
 import QtQuick 2.15
 import Tarnis 1.0
 import "blocks" as Blocks
+import "icons" as Icons
 import "theme"
 
 Blocks.Page {
     id: page
 
+    property string background: "light and dark"
+    property int pixels: 32
+    readonly property var backdrops: background === "light" ? [Theme.lightBackdrop]
+        : background === "dark" ? [Theme.darkBackdrop] : [Theme.lightBackdrop, Theme.darkBackdrop]
+
+    // A card has one place for each context; on a narrow window the places and the backdrops in them wrap.
+    readonly property int contextCount: Math.max(1, IconCatalog.contexts.length)
+    readonly property int innerWidth: width - 2 * Theme.small
+    readonly property int swatchWidth: 3 * (pixels + Theme.small)
+    readonly property int placeWidth: Math.min(innerWidth - 2 * Theme.small, Math.max(
+        180, backdrops.length * (swatchWidth + Theme.tiny) + 2 * Theme.small))
+    readonly property int columns: Math.max(1, Math.min(
+        contextCount, Math.floor((innerWidth - 2 * Theme.small) / placeWidth)))
+    readonly property int cardsPerRow: Math.max(
+        1, Math.floor(innerWidth / (columns * placeWidth + 2 * Theme.small)))
+
     title: "Icons"
-    subtitle: list.count + " icons"
+    subtitle: list.count + " icons in " + IconCatalog.contexts.length
+              + (IconCatalog.contexts.length === 1 ? " context" : " contexts")
     isEmpty: list.count === 0
     emptyText: "The mapping table contains no icons."
+    controls: [
+        Blocks.Caption {
+            height: Theme.controlHeight
+            verticalAlignment: Text.AlignVCenter
+            text: "Background"
+        },
+        Blocks.Choice {
+            width: 150
+            label: "Background of the icons"
+            model: ["light and dark", "light", "dark"]
+            value: page.background
+            onChosen: value => page.background = value
+        },
+        Blocks.Caption {
+            height: Theme.controlHeight
+            verticalAlignment: Text.AlignVCenter
+            text: "Size at 1x"
+        },
+        Blocks.Choice {
+            width: 90
+            label: "Size at 1x, in pixels; at 2x it is doubled"
+            model: ["16 px", "24 px", "32 px", "48 px", "64 px", "96 px"]
+            value: page.pixels + " px"
+            onChosen: value => page.pixels = parseInt(value)
+        }
+    ]
 
     Blocks.Cells {
         id: list
 
         anchors.fill: parent
-        leftMargin: 8
-        topMargin: 8
-        cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 116))
-        cellHeight: 112
+        anchors.leftMargin: Theme.small
+        cellWidth: Math.floor(page.innerWidth / page.cardsPerRow)
+        cellHeight: sample.height + Theme.small
         rows: IconCatalog.revision >= 0 ? IconCatalog.aliases(View.search) : []
-        delegate: Blocks.Entry {
-            readonly property string alias: modelData
-            readonly property string effectiveContext: IconCatalog.revision >= 0
-                ? IconCatalog.effectiveContext(alias, View.context) : ""
-            readonly property string url: Ui.icons.getIconPathAsFileUrl(alias, View.context)
+        delegate: Item {
+            function clicked() {
+                card.clicked()
+            }
 
             width: list.cellWidth
             height: list.cellHeight
-            expression: 'Ui.icons.getIconPathAsFileUrl("' + alias + '", "' + View.context + '")'
-            contentItem: Column {
-                spacing: 2
-                Rectangle {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    width: 56
-                    height: 56
-                    radius: 4
-                    color: View.context === "nightMode" ? "#202830" : "#f0f2f4"
-                    Image {
-                        anchors.centerIn: parent
-                        sourceSize: Qt.size(48, 48)
-                        source: url === "" ? "" : url + "#" + IconCatalog.revision
-                    }
-                }
-                Blocks.Title {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    width: Math.min(implicitWidth, parent.width)
-                    elide: Text.ElideMiddle
-                    font.bold: false
-                    text: alias
-                }
-                Blocks.Mark {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    color: url === "" ? Theme.error : Theme.textSecondary
-                    text: url === "" ? "missing" : effectiveContext === View.context ? "" : effectiveContext
-                }
+            Icons.IconCard {
+                id: card
+
+                width: parent.width - Theme.small
+                alias: modelData
+                columns: page.columns
+                placeWidth: page.placeWidth
+                pixels: page.pixels
+                backdrops: page.backdrops
             }
         }
+    }
+    // Has the height of every card.
+    Icons.IconCard {
+        id: sample
+
+        visible: false
+        columns: page.columns
+        placeWidth: page.placeWidth
+        pixels: page.pixels
+        backdrops: page.backdrops
     }
 }

@@ -35,5 +35,8 @@ QtObject {
     readonly property color errorSurface: isDark ? "#4a1512" : "#fde7e7"
     readonly property color textOnErrorSurface: isDark ? "#ffd9d5" : "#8c1d18"
     readonly property color warning: isDark ? "#f2b763" : "#7a4a00"
+    // What icons are shown on, in every theme.
+    readonly property color lightBackdrop: "#f0f2f4"
+    readonly property color darkBackdrop: "#202830"
     readonly property color good: isDark ? "#7fd19a" : "#1e6b3a"
 }
