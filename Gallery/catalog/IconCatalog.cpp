@@ -57,6 +57,7 @@ bool IconCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fr
     for (const TarnisIconHandler::ContextMap& contexts : qAsConst(iconMap))
         contextNames += contexts.keys();
     contextNames.removeDuplicates();
+    contextNames.removeAll(QString()); // the handler's mark for a path that is not a string
     return true;
 }
 

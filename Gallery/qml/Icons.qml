@@ -24,8 +24,7 @@ Blocks.Page {
         1, Math.floor(innerWidth / (columns * placeWidth + 2 * Theme.small)))
 
     title: "Icons"
-    subtitle: list.count + " icons in " + IconCatalog.contexts.length
-              + (IconCatalog.contexts.length === 1 ? " context" : " contexts")
+    subtitle: list.count + (list.count === 1 ? " icon" : " icons")
     isEmpty: list.count === 0
     emptyText: "The mapping table contains no icons."
     controls: [

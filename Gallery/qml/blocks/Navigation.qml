@@ -53,6 +53,12 @@ Rectangle {
                     color: Theme.accent
                 }
             }
+            Mark {
+                anchors.right: parent.right
+                anchors.rightMargin: Theme.small
+                anchors.verticalCenter: parent.verticalCenter
+                text: modelData === "Findings" && Findings.errors > 0 ? Findings.errors : ""
+            }
             contentItem: Text {
                 leftPadding: Theme.small
                 verticalAlignment: Text.AlignVCenter

@@ -56,6 +56,7 @@ Blocks.Entry {
             anchors.bottom: parent.bottom
             width: parent.width
             Row {
+                width: parent.width
                 height: entry.captionHeight
                 spacing: Theme.tiny
                 Blocks.Caption {
