@@ -85,8 +85,10 @@ void LastGoodSource::ask()
 
 void LastGoodSource::passOn(const Answers& answers, const QString& problem)
 {
-    if (!answers.directory().isEmpty())
+    if (!answers.directory().isEmpty() && answers.directory() != directory) {
         directory = answers.directory();
+        judgedTable = QString(); // the messages contain the path
+    }
     Answers copied = answers;
     QStringList faults;
     const Directory copies = files.copies();
@@ -139,9 +141,12 @@ void LastGoodSource::judgeMappingTable(Answers& answers, QStringList& faults)
     if (!answers.icons.isAnswered())
         return;
     QString& table = answers.icons.value.second;
-    const QStringList found = FileFaults::ofMappingTable(Directory(directory).mappingTable(), table.toUtf8());
-    faults += found;
-    if (found.isEmpty())
+    if (table != judgedTable) {
+        judgedTable = table;
+        tableFaults = FileFaults::ofMappingTable(Directory(directory).mappingTable(), table.toUtf8());
+    }
+    faults += tableFaults;
+    if (tableFaults.isEmpty())
         goodTable = table;
     else
         table = goodTable.isNull() ? FileFaults::soundPart(table) : goodTable;

@@ -34,8 +34,10 @@ private:
 
     QmlHost::Source* const original; // child of this object
     LastGoodFiles files;
+    QString directory;   // of the resources; empty if it is not known
+    QString judgedTable; // the last mapping table
+    QStringList tableFaults;
     QString goodTable; // the last mapping table without faults; null if there was none
-    QString directory; // of the resources; empty if it is not known
 };
 
 } // namespace Gallery

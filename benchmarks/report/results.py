@@ -32,7 +32,8 @@ class Results:
 
     def time(self, program, name):
         runs = self.runs[program]
-        for suffix in ("", "/real_time", "/manual_time", "/iterations:300"):
+        for suffix in ("", "/real_time", "/manual_time", "/iterations:300",
+                       "/iterations:1/repeats:10/manual_time"):
             if name + suffix in runs:
                 return self.nanoseconds(runs[name + suffix])
         raise KeyError(f"{program}: {name}")

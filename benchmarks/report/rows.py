@@ -17,16 +17,22 @@ class Goal:
     limit: float
     where: str = ""
     exactly: bool = False
+    unit: str = ""
+    tolerance: float = 1  # how many times the limit a noisy machine may need
     program: str = ""  # measured again when the goal is missed; empty if the number is the same in every run
     benchmarks: tuple = ()
 
+    def holds(self, limit):
+        return (operator.eq if self.exactly else operator.le)(self.measured, limit)
+
     def is_met(self):
-        return (operator.eq if self.exactly else operator.le)(self.measured, self.limit)
+        return self.holds(self.limit * self.tolerance)
 
     def cells(self):
         relation = "exactly" if self.exactly else "at most"
-        verdict = "met" if self.is_met() else "**missed**"
-        return self.question, self.against, f"{self.measured:.2f} {self.where}".strip(), f"{relation} {self.limit:g}", verdict
+        verdict = "met" if self.holds(self.limit) else "exceeded, tolerated" if self.is_met() else "**missed**"
+        return (self.question, self.against, f"{self.measured:.2f} {self.unit or self.where}".strip(),
+                f"{relation} {self.limit:g} {self.unit}".strip(), verdict)
 
 
 @dataclasses.dataclass
@@ -53,6 +59,20 @@ def time_goal(results, question, against, limit, program, name, *others):
 def size_goal(results, question, against, limit, program, name, other):
     ratio, where = worst(results.ratio_by_size(program, name, other))
     return Goal(question, against, ratio, limit, where, program=program, benchmarks=(name, other))
+
+
+def gallery_goals(results):
+    """What a designer waits for, in milliseconds on the screen. Machines differ, so five times as much is tolerated."""
+    for name, question, limit in (
+        ("first picture", "gallery, first picture of 8,700 icons", 1300),
+        ("saved color/sample", "gallery, saved color, sample", 300),
+        ("saved color/breeze", "gallery, saved color, 8,700 icons", 1000),
+        ("window", "gallery, window while the service hangs", 1000),
+        ("page switch", "gallery, slowest page switch while the service hangs", 100),
+        ("recovery", "gallery, resources after the service continues", 1000),
+    ):
+        yield Goal(question, "", results.time("Gallery", name) / 1e6, limit, unit="ms", tolerance=5, program="Gallery",
+                   benchmarks=(name,))
 
 
 def table_goals(results):
@@ -83,6 +103,7 @@ def goals(results):
         time_goal(results, "connector getter", "QDBusConnection::call", 1.15, "Connector", "library", "call"),
         time_goal(results, "whole start", "bare calls, reads and parses", 1.8, "Start", "library", "bare"),
         *table_goals(results),
+        *gallery_goals(results),
         Goal("stripped library, KiB", "", results.counts("library.txt")["stripped size (bytes)"] / 1024, 120),
     ]
 
