@@ -52,7 +52,7 @@ bool Screenshots::take(const QString& path)
     QDeadlineTimer settled(settleMilliseconds);
     while (!settled.hasExpired() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, settleMilliseconds);
-        if (!window.isExposed() || session.catalogs.texts.isReading() || session.findings.isRunning()
+        if (!window.isExposed() || session.catalogs.isReading() || session.findings.isRunning()
             || isLoading(*window.contentItem()))
             settled = QDeadlineTimer(settleMilliseconds);
     }

@@ -21,6 +21,9 @@ struct Catalogs {
     {
     }
 
+    /// Whether a worker thread still reads.
+    bool isReading() const { return texts.isReading() || fonts.isReading(); }
+
     ColorCatalog colors;
     TextCatalog texts;
     FontCatalog fonts;

@@ -16,10 +16,8 @@ FontCatalog::FontCatalog(const TarnisUi& tarnisUi, const TextCatalog& textCatalo
     : Catalog(tarnisUi)
     , texts(textCatalog)
 {
-    connect(&texts, &Catalog::changed, this, [this] {
-        coverages.clear();
-        announce();
-    });
+    worker.setMaxThreadCount(1);
+    connect(&texts, &Catalog::changed, this, &FontCatalog::findCoverage);
     start();
 }
 
@@ -34,24 +32,19 @@ QString FontCatalog::usedFamily(const QString& family) const
     return isInstalled ? family : QFontInfo(QFont(family)).family();
 }
 
-QVariantList FontCatalog::coverage(const QString& family) const
+QVariantMap FontCatalog::coverage() const
 {
-    const auto known = coverages.constFind(family);
-    if (known != coverages.constEnd())
-        return *known;
-    QVariantList list;
-    const QRawFont rawFont = GlyphCoverage::rawFont(family);
-    for (const TextColumn& column : texts.table().columns) {
-        if (texts.languages().contains(column.language))
-            list.append(QVariant::fromValue(GlyphCoverage::of(rawFont, column)));
-    }
-    coverages.insert(family, list);
-    return list;
+    return coverages;
+}
+
+bool FontCatalog::isReading() const
+{
+    return taken != requested;
 }
 
 QString FontCatalog::defaultSample(const QString& language) const
 {
-    const TextColumn* const column = texts.table().column(language);
+    const TextColumn* const column = texts.table()->column(language);
     return column == nullptr ? QStringLiteral("0123456789") : column->sample;
 }
 
@@ -59,12 +52,43 @@ bool FontCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fr
 {
     if (fresh.fontFile == old.fontFile)
         return false;
-    all = Entry::ofFile(fresh.fontFile.value);
-    const auto isFamily = [](const QVariant& entry) {
-        return entry.value<Entry>().key == TarnisFontHandler::familyKey;
-    };
-    all.erase(std::remove_if(all.begin(), all.end(), isFamily), all.end());
+    families.clear();
+    all.clear();
+    for (const QVariant& entry : Entry::ofFile(fresh.fontFile.value)) {
+        if (entry.value<Entry>().key == TarnisFontHandler::familyKey)
+            families.append(entry.value<Entry>().value);
+        else
+            all.append(entry);
+    }
+    families.removeDuplicates();
+    findCoverage();
     return true;
+}
+
+void FontCatalog::findCoverage()
+{
+    worker.clear();
+    const auto find = [this, number = ++requested, names = families, table = texts.table(), languages = texts.languages()] {
+        QVariantMap fresh;
+        for (const QString& family : names) {
+            const QRawFont rawFont = GlyphCoverage::rawFont(family);
+            QVariantList list;
+            for (const TextColumn& column : table->columns) {
+                if (languages.contains(column.language))
+                    list.append(QVariant::fromValue(GlyphCoverage::of(rawFont, column)));
+            }
+            fresh.insert(family, list);
+        }
+        QMetaObject::invokeMethod(this, [this, number, fresh] { takeCoverage(number, fresh); });
+    };
+    worker.start(find);
+}
+
+void FontCatalog::takeCoverage(int number, const QVariantMap& fresh)
+{
+    taken = number;
+    coverages = fresh;
+    Q_EMIT coverageChanged();
 }
 
 } // namespace Gallery

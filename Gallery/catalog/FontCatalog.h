@@ -3,9 +3,11 @@
 #include "Gallery/catalog/Catalog.h"
 #include "Gallery/catalog/TextCatalog.h"
 
-#include <QHash>
 #include <QString>
+#include <QStringList>
+#include <QThreadPool>
 #include <QVariantList>
+#include <QVariantMap>
 
 namespace Gallery
 {
@@ -17,8 +19,11 @@ class FontCatalog : public Catalog
 
     /// The text that the user has written to see it in every size; empty at first.
     Q_PROPERTY(QString sample MEMBER sample NOTIFY sampleChanged)
-    /// Whether the page shows all characters that a family lacks instead of the first ones.
-    Q_PROPERTY(bool showsAllMissing MEMBER showsAllMissing NOTIFY sampleChanged)
+    /// Whether the page shows many of the characters that a family lacks instead of a few.
+    Q_PROPERTY(bool showsManyMissing MEMBER showsManyMissing NOTIFY sampleChanged)
+    /// A map from the name of each family of the file to a list of GlyphCoverage, one for each language of the
+    /// directory. A worker thread makes the lists; a family is left out until its list is there.
+    Q_PROPERTY(QVariantMap coverage READ coverage NOTIFY coverageChanged)
 
 public:
     /// The texts must outlive the fonts.
@@ -30,24 +35,33 @@ public:
     /// The font family that is drawn for this one: itself if it is installed.
     Q_INVOKABLE QString usedFamily(const QString& family) const;
 
-    /// A list of GlyphCoverage, one for each language of the directory. It is found once and then remembered until the
-    /// texts change.
-    Q_INVOKABLE QVariantList coverage(const QString& family) const;
+    QVariantMap coverage() const;
+
+    /// Whether the worker thread is busy.
+    bool isReading() const;
 
     /// A text of the directory in this language with many different letters.
     Q_INVOKABLE QString defaultSample(const QString& language) const;
 
 Q_SIGNALS:
     void sampleChanged();
+    void coverageChanged();
 
 private:
     bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) override;
 
+    void findCoverage();
+    void takeCoverage(int number, const QVariantMap& fresh);
+
     const TextCatalog& texts;
     QVariantList all;
+    QStringList families;
     QString sample;
-    bool showsAllMissing = false;
-    mutable QHash<QString, QVariantList> coverages; // by family
+    bool showsManyMissing = false;
+    QVariantMap coverages;
+    int requested = 0;  // number of the last search for coverage
+    int taken = 0;      // number of the last one whose result is here
+    QThreadPool worker; // its destructor waits for the search in progress
 };
 
 } // namespace Gallery

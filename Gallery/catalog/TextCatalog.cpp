@@ -58,14 +58,19 @@ QVariantList TextCatalog::cells(const QString& url) const
     return row;
 }
 
+int TextCatalog::count() const
+{
+    return texts->urls.size();
+}
+
 int TextCatalog::countMissing() const
 {
-    return count(&TextCell::isMissing);
+    return countCells(&TextCell::isMissing);
 }
 
 int TextCatalog::countIdentical() const
 {
-    return count(&TextCell::isIdentical);
+    return countCells(&TextCell::isIdentical);
 }
 
 bool TextCatalog::isReading() const
@@ -73,9 +78,9 @@ bool TextCatalog::isReading() const
     return taken != requested;
 }
 
-const TextTable& TextCatalog::table() const
+std::shared_ptr<const TextTable> TextCatalog::table() const
 {
-    return *texts;
+    return texts;
 }
 
 bool TextCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fresh)
@@ -99,7 +104,7 @@ void TextCatalog::take(int number, const std::shared_ptr<const TextTable>& fresh
     announce();
 }
 
-int TextCatalog::count(bool TextCell::* fact) const
+int TextCatalog::countCells(bool TextCell::* fact) const
 {
     int sum = 0;
     for (const TextColumn& column : texts->columns) {

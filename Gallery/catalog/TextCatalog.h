@@ -43,6 +43,9 @@ public:
     /// A list of TextCell, in the order of the languages and then the pseudo languages; empty for an unknown URL.
     Q_INVOKABLE QVariantList cells(const QString& url) const;
 
+    /// How many URLs there are.
+    Q_INVOKABLE int count() const;
+
     /// How many texts are missing, counted in each language.
     Q_INVOKABLE int countMissing() const;
 
@@ -52,8 +55,8 @@ public:
     /// Whether a change is still being read.
     bool isReading() const;
 
-    /// What has been read last.
-    const TextTable& table() const;
+    /// What has been read last; never null.
+    std::shared_ptr<const TextTable> table() const;
 
 Q_SIGNALS:
     void languagesChanged();
@@ -62,7 +65,7 @@ Q_SIGNALS:
 private:
     bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) override;
     void take(int number, const std::shared_ptr<const TextTable>& fresh);
-    int count(bool TextCell::* fact) const;
+    int countCells(bool TextCell::* fact) const;
     bool isMissingInAnyLanguage(int index) const;
 
     QStringList languageNames;

@@ -11,7 +11,7 @@ Blocks.Page {
     id: page
 
     readonly property int dotsPerInch: Math.round(Screen.logicalPixelDensity * 25.4)
-    readonly property string defaultSample: FontCatalog.revision >= 0 ? FontCatalog.defaultSample(Ui.language) : ""
+    readonly property string defaultSample: TextCatalog.revision >= 0 ? FontCatalog.defaultSample(Ui.language) : ""
 
     function firstGroupOf(family) {
         return list.rows.find(entry => Ui.fonts.getFontFamily(entry.group) === family).group
@@ -37,9 +37,9 @@ Blocks.Page {
         },
         CheckBox {
             height: Theme.controlHeight
-            text: "All missing characters"
-            checked: FontCatalog.showsAllMissing
-            onToggled: FontCatalog.showsAllMissing = checked
+            text: "More missing characters"
+            checked: FontCatalog.showsManyMissing
+            onToggled: FontCatalog.showsManyMissing = checked
         }
     ]
 

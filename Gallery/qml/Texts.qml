@@ -13,7 +13,7 @@ Blocks.Page {
         ? TextCatalog.languages.concat(TextCatalog.pseudoLanguages) : TextCatalog.languages
     readonly property int missing: TextCatalog.revision >= 0 ? TextCatalog.countMissing() : 0
     readonly property int identical: TextCatalog.revision >= 0 ? TextCatalog.countIdentical() : 0
-    readonly property int total: TextCatalog.revision >= 0 ? TextCatalog.urls("", false).length : 0
+    readonly property int total: TextCatalog.revision >= 0 ? TextCatalog.count() : 0
 
     title: "Texts"
     subtitle: total + " texts in " + TextCatalog.languages.length + " languages, " + missing + " missing, " + identical

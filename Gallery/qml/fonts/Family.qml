@@ -12,7 +12,7 @@ Rectangle {
     property string describedGroup // the first one with this family, which tells what the family lacks
 
     readonly property string used: FontCatalog.revision >= 0 ? FontCatalog.usedFamily(family) : ""
-    readonly property var coverage: FontCatalog.revision >= 0 && group === describedGroup ? FontCatalog.coverage(family) : []
+    readonly property var coverage: group === describedGroup && FontCatalog.coverage[family] || []
     readonly property var incomplete: coverage.filter(language => language.missing.length > 0)
     readonly property var complete: coverage.filter(language => language.missing.length === 0)
 

@@ -7,7 +7,7 @@ import "../theme"
 Column {
     property var coverage
 
-    readonly property int shown: FontCatalog.showsAllMissing ? coverage.missing.length : Math.min(8, coverage.missing.length)
+    readonly property int shown: Math.min(FontCatalog.showsManyMissing ? 400 : 8, coverage.missing.length)
     readonly property int hidden: coverage.missing.length - shown
     readonly property string substitutes: coverage.substitutes.length > 0
         ? "drawn with " + coverage.substitutes.join(", ") : ""
