@@ -1,6 +1,7 @@
 #include "Gallery/LastGoodSource.h"
 
 #include "Gallery/PseudoLanguage.h"
+#include "ResourceCheck/Settings.h"
 #include "ResourceFormat/Directory.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/PublishedResources.h"
@@ -51,6 +52,19 @@ QStringList faultsOfMissingParts(const Answers& answers, const Directory& direct
     return faults;
 }
 
+// The checker's settings name pairs of colors. They stay beside the colors.
+void copySettings(const QString& from, const QString& to)
+{
+    const QString name = QLatin1Char('/') + ResourceCheck::Settings::fileName();
+    QString unreadable;
+    const QByteArray content = RegularFile::readAll(from + name, unreadable);
+    QFile copy(to + name);
+    if (!unreadable.isNull())
+        copy.remove();
+    else if (copy.open(QIODevice::WriteOnly))
+        copy.write(content);
+}
+
 // Without the sentences on a file whose fault is known: they are less exact.
 QString join(const QStringList& faults, const QString& problem)
 {
@@ -92,6 +106,7 @@ void LastGoodSource::passOn(const Answers& answers, const QString& problem)
     Answers copied = answers;
     QStringList faults;
     const Directory copies = files.copies();
+    copySettings(directory, copies.path());
     if (answers.colorFile.isAnswered())
         copied.setColorFile(files.update(answers.colorFile.value, copies.colorFile(), FileFaults::ofIni, faults));
     if (answers.fontFile.isAnswered())

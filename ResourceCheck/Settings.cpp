@@ -83,9 +83,14 @@ QString Settings::setEntry(const IniEntry& entry)
     return problem;
 }
 
+QString Settings::fileName()
+{
+    return QStringLiteral(".tarnis-check.ini");
+}
+
 QString Settings::readFileOf(const QString& directory)
 {
-    const QFileInfo info(directory + QStringLiteral("/.tarnis-check.ini"));
+    const QFileInfo info(directory + QLatin1Char('/') + fileName());
     if (!info.exists() && !info.isSymLink())
         return QString();
     const IniFile file(info.filePath());

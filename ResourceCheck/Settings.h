@@ -20,6 +20,9 @@ namespace ResourceCheck
 ///
 /// Each function returns what is wrong with its argument and what to do; null if nothing is wrong.
 struct Settings {
+    /// The name of the file in the resource directory.
+    static QString fileName();
+
     /// The file is optional.
     QString readFileOf(const QString& directory);
 

@@ -30,12 +30,26 @@ double luminance(const QColor& color)
 namespace ResourceFormat::Contrast
 {
 
-double ratio(const QColor& text, const QColor& background)
+double ratio(const QColor& text, const QColor& background, const QColor& behind)
 {
-    const QColor opaque = blended(background, Qt::white);
+    const QColor opaque = blended(background, blended(behind, Qt::white));
     const double first = luminance(blended(text, opaque));
     const double second = luminance(opaque);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+QString backgroundKey()
+{
+    return QStringLiteral("Background");
+}
+
+QString backgroundKeyOf(const QString& key)
+{
+    const QString onPrefix = QStringLiteral("TextOn");
+    if (key.startsWith(onPrefix))
+        return key.mid(onPrefix.size());
+    const bool isText = key.startsWith(QStringLiteral("Text")) && !key.endsWith(QStringLiteral("Disabled"));
+    return isText ? backgroundKey() : QString();
 }
 
 } // namespace ResourceFormat::Contrast

@@ -1,21 +1,18 @@
 import QtQuick 2.15
 import Tarnis 1.0
 import "blocks" as Blocks
+import "colors" as Colors
 import "theme"
 
 Blocks.Page {
     id: page
 
-    readonly property var entries: ColorCatalog.revision >= 0 ? ColorCatalog.entries("") : []
-    readonly property var names: entries.map(entry => entry.group + "/" + entry.key)
-    property string background: "white"
-    readonly property int backgroundIndex: names.indexOf(background)
-    readonly property string backgroundColor: backgroundIndex < 0
-        ? background
-        : Ui.colors.getColor(entries[backgroundIndex].group, entries[backgroundIndex].key)
+    readonly property var backgrounds: ColorCatalog.revision >= 0 ? ColorCatalog.backgrounds() : []
+    property string chosenBackground: "Background"
+    readonly property string background: backgrounds.includes(chosenBackground) ? chosenBackground : "white"
 
     title: "Colors"
-    subtitle: cells.count + " colors"
+    subtitle: ColorCatalog.revision >= 0 ? ColorCatalog.entries("").length + " colors" : ""
     isEmpty: cells.count === 0
     emptyText: "The color file contains no colors."
     controls: [
@@ -27,53 +24,58 @@ Blocks.Page {
         Blocks.Choice {
             width: 260
             label: "Background color for the contrast ratio"
-            model: ["white", "black"].concat(page.names)
+            model: page.backgrounds
             value: page.background
-            onChosen: value => page.background = value
+            onChosen: value => page.chosenBackground = value
+        },
+        Blocks.Caption {
+            height: page.width < 900 ? implicitHeight : Theme.controlHeight // below the choice or beside it
+            verticalAlignment: Text.AlignVCenter
+            text: "WCAG 2.1: AA from 4.5:1, large text from 3:1. AAA from 7:1, large text from 4.5:1."
         }
     ]
 
     Blocks.Cells {
         id: cells
 
-        anchors.fill: parent
-        leftMargin: 8
-        cellWidth: Math.floor((width - 16) / Math.floor((width - 16) / 150))
-        cellHeight: 124
-        rows: ColorCatalog.revision >= 0 ? ColorCatalog.entries(View.search) : []
-        delegate: Blocks.Entry {
-            readonly property string value: Ui.colors.getColor(modelData.group, modelData.key)
-            readonly property bool isColor: ColorCatalog.isColor(value)
-            readonly property double contrast: ColorCatalog.contrast(value, page.backgroundColor)
+        readonly property int mostThemes: rows.reduce((most, row) => Math.max(most, row.cells.length), 1)
+        readonly property int room: width - 2 * Theme.small
+        readonly property int swatchWidth: 140
+        // The swatches of a card wrap if even one card is too wide.
+        readonly property int swatchColumns: Math.max(1, Math.min(mostThemes, Math.floor(room / swatchWidth)))
+        readonly property int cardColumns: Math.max(1, Math.floor(room / (swatchColumns * swatchWidth)))
+        readonly property int swatchHeight: 48 + 3 * (Theme.captionSize + 5) + 3 * Theme.tiny
+        property int current: 0
 
-            width: GridView.view.cellWidth
-            height: GridView.view.cellHeight
-            expression: 'Ui.colors.getColor("' + modelData.group + '", "' + modelData.key + '")'
-            contentItem: Column {
-                leftPadding: 4
-                Rectangle {
-                    width: parent.width - 8
-                    height: 50
-                    border.color: Theme.line
-                    color: isColor ? value : "transparent"
-                    Blocks.Mark {
-                        anchors.centerIn: parent
-                        text: isColor ? "" : "not a color"
-                    }
-                }
-                Blocks.Title {
-                    width: parent.width - 8
-                    text: modelData.key
-                }
-                Blocks.Caption {
-                    width: parent.width - 8
-                    text: modelData.group
-                }
-                Blocks.Caption {
-                    width: parent.width - 8
-                    text: value + (isColor ? "   " + contrast.toFixed(2) + ":1" : "")
-                }
+        function move(step) {
+            const swatch = current + step
+            if (currentItem && swatch >= 0 && swatch < rows[currentIndex].cells.length)
+                current = swatch
+            else if (step > 0 && currentIndex < count - 1) {
+                moveCurrentIndexRight()
+                current = 0
+            } else if (step < 0 && currentIndex > 0) {
+                moveCurrentIndexLeft()
+                current = rows[currentIndex].cells.length - 1
             }
+        }
+
+        anchors.fill: parent
+        leftMargin: Theme.small
+        cellWidth: Math.floor(room / cardColumns)
+        cellHeight: Math.ceil(mostThemes / swatchColumns) * swatchHeight + Theme.rowHeight
+        highlight: null
+        rows: ColorCatalog.revision >= 0 ? ColorCatalog.rows(View.search) : []
+        Keys.onLeftPressed: move(-1)
+        Keys.onRightPressed: move(1)
+        delegate: Colors.Card {
+            width: cells.cellWidth
+            height: cells.cellHeight
+            row: modelData
+            against: page.background
+            columns: cells.swatchColumns
+            swatchHeight: cells.swatchHeight
+            current: cells.activeFocus && GridView.isCurrentItem ? Math.min(cells.current, row.cells.length - 1) : -1
         }
     }
 }

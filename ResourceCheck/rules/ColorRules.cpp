@@ -10,11 +10,10 @@ namespace ResourceCheck
 {
 
 using ResourceFormat::IniEntry;
+namespace Contrast = ResourceFormat::Contrast;
 
 namespace
 {
-
-constexpr double minimumContrast = 4.5; // WCAG 2, level AA
 
 void checkColors(const Project& project, const Report& report)
 {
@@ -28,16 +27,6 @@ void checkColors(const Project& project, const Report& report)
     }
 }
 
-// TextOnNAME is shown on NAME, any other text on the background of its group. Disabled text may be hard to read.
-QString backgroundKeyOf(const QString& key)
-{
-    const QString onPrefix = QStringLiteral("TextOn");
-    if (key.startsWith(onPrefix))
-        return key.mid(onPrefix.size());
-    const bool isText = key.startsWith(QStringLiteral("Text")) && !key.endsWith(QStringLiteral("Disabled"));
-    return isText ? QStringLiteral("Background") : QString();
-}
-
 const IniEntry* findColor(const IniFile& file, const QString& name)
 {
     return file.content().find(name.section(QLatin1Char('/'), 0, 0), name.section(QLatin1Char('/'), 1));
@@ -47,13 +36,16 @@ void checkPair(const IniFile& file, const IniEntry& text, const IniEntry& backgr
 {
     if (!QColor::isValidColor(text.value) || !QColor::isValidColor(background.value))
         return;
-    const double ratio = ResourceFormat::Contrast::ratio(QColor(text.value), QColor(background.value));
-    if (ratio < minimumContrast) {
+    const IniEntry* behind = file.content().find(background.group, Contrast::backgroundKey());
+    const QColor behindColor(behind == nullptr || behind == &background ? QString() : behind->value);
+    const double ratio = Contrast::ratio(QColor(text.value), QColor(background.value),
+                                         behindColor.isValid() ? behindColor : QColor(Qt::white));
+    if (ratio < Contrast::minimumAA) {
         report(file.valuePlace(text),
                QStringLiteral("%1/%2 on %3/%4: contrast %5:1 is below the WCAG AA minimum of %6:1; make one of the "
                               "colors lighter or darker")
                    .arg(text.group, text.key, background.group, background.key, QString::number(ratio, 'f', 2),
-                        QString::number(minimumContrast)));
+                        QString::number(Contrast::minimumAA)));
     }
 }
 
@@ -61,7 +53,7 @@ void checkContrast(const Project& project, const Report& report)
 {
     const IniFile& file = project.resources.colors;
     for (const IniEntry& text : file.effectiveEntries()) {
-        const IniEntry* background = file.content().find(text.group, backgroundKeyOf(text.key));
+        const IniEntry* background = file.content().find(text.group, Contrast::backgroundKeyOf(text.key));
         if (background != nullptr)
             checkPair(file, text, *background, report);
     }

@@ -4,10 +4,12 @@ import "../theme"
 // Draws the designer's attention to a problem.
 Rectangle {
     property alias text: label.text
+    property alias textColor: label.color
     property bool isWarning: false
+    property int margin: 5 // left and right of the text
 
     visible: text !== ""
-    width: Math.min(label.implicitWidth + 10, parent ? parent.width : label.implicitWidth + 10)
+    width: Math.min(label.implicitWidth + 2 * margin, parent ? parent.width : label.implicitWidth + 2 * margin)
     height: label.implicitHeight + 4
     radius: 3
     color: isWarning ? Theme.warning : Theme.error
@@ -16,7 +18,7 @@ Rectangle {
         id: label
 
         anchors.centerIn: parent
-        width: Math.min(implicitWidth, parent.width - 4)
+        width: Math.min(implicitWidth, parent.width - 2 * parent.margin)
         elide: Text.ElideRight
         color: Theme.textOnError
         font.pixelSize: Theme.captionSize
