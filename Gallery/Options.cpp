@@ -22,11 +22,14 @@ struct Parser : QCommandLineParser {
         setApplicationDescription(QStringLiteral(
             "Shows the resources of a device's front end and follows the changes of their files. They are those of "
             "the directory DIR or, without DIR, those that the service Module.Tarnis on the system bus provides.\n\n"
-            "Exit status: 0 success; 1 the resources, the display or a lookup failed; 2 wrong usage."));
+            "Exit status: 0 success; 1 the resources, the display or a lookup failed; 2 wrong usage. With --report: "
+            "0 nothing has changed; 1 something has changed; 2 wrong usage; 3 something could not be read or the "
+            "report not be written."));
         addPositionalArgument(QStringLiteral("DIR"),
                               QStringLiteral("Resource directory to show. It needs no bus and no service."),
                               QStringLiteral("[DIR]"));
         addOptions({qml, language, context, display, page, theme, size, editor, screenshot, screenshotAll, dump});
+        addOptions({compare, report});
     }
 
     const QString name = QStringLiteral("NAME");
@@ -66,6 +69,13 @@ struct Parser : QCommandLineParser {
         QStringLiteral("Program that opens a file from the page Findings, with {file}, {line} and {column}; "
                        "the default is the program of the desktop."),
         QStringLiteral("COMMAND")};
+    const QCommandLineOption compare{QStringLiteral("compare"),
+                                     QStringLiteral("Compare DIR, the new state, with OTHER_DIR, the old one."),
+                                     QStringLiteral("OTHER_DIR")};
+    const QCommandLineOption report{
+        QStringLiteral("report"),
+        QStringLiteral("With --compare: write the differences as one HTML file and exit. Needs no display."),
+        QStringLiteral("FILE.html")};
     const QCommandLineOption help = addHelpOption();
     const QCommandLineOption version = addVersionOption();
 };
@@ -84,8 +94,10 @@ QString unknown(const char* what, const QString& value, const QStringList& known
 bool Options::needsNoDisplay(int argc, char* argv[])
 {
     return std::any_of(argv, argv + argc, [](const char* argument) {
-        return QStringList{QStringLiteral("--dump"), QStringLiteral("--help"), QStringLiteral("--version")}.contains(
-            QString::fromLocal8Bit(argument));
+        const QString name = QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0);
+        return QStringList{QStringLiteral("--dump"), QStringLiteral("--help"), QStringLiteral("--report"),
+                           QStringLiteral("--version")}
+            .contains(name);
     });
 }
 
@@ -122,6 +134,10 @@ QString Options::parse(int argc, char* argv[])
     screenshotDirectory = parser.value(parser.screenshotAll);
     editor = parser.value(parser.editor);
     isDump = parser.isSet(parser.dump);
+    oldDirectory = parser.value(parser.compare);
+    report = parser.value(parser.report);
+    if (!report.isEmpty() && (oldDirectory.isEmpty() || directory.isEmpty()))
+        return QStringLiteral("--report needs two directories; use: DIR --compare OTHER_DIR --report FILE.html");
     return QString();
 }
 

@@ -34,6 +34,8 @@ struct Options {
     QSize windowSize; ///< Invalid if it is not given.
     QString screenshot;
     QString screenshotDirectory;
+    QString oldDirectory; ///< To compare with; empty for no comparison.
+    QString report;
     bool isDump = false;
 };
 

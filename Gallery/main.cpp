@@ -1,11 +1,14 @@
 #include "Gallery/Dump.h"
+#include "Gallery/LastGoodSource.h"
 #include "Gallery/Options.h"
 #include "Gallery/Screenshots.h"
 #include "Gallery/Session.h"
+#include "Gallery/compare/Report.h"
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QSaveFile>
 
 #include <cstdio>
 
@@ -14,7 +17,8 @@ using namespace Gallery;
 namespace
 {
 
-enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2 };
+// With --report, 1 means that something has changed.
+enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2, Incomplete = 3 };
 
 constexpr int firstFrameMilliseconds = 400; // for a first frame with resources; a window without them opens after it
 constexpr int answerMilliseconds = 10000;   // longer than a call to the service may last
@@ -106,13 +110,34 @@ int run(const Options& options)
     return session.ui.problem().isEmpty() ? Success : Failure;
 }
 
+Snapshot snapshot(const QString& directory)
+{
+    return Snapshot::of(std::make_unique<LastGoodSource>(TarnisUi::directory(directory)));
+}
+
+int compare(const Options& options)
+{
+    const Comparison comparison(snapshot(options.oldDirectory), snapshot(options.directory));
+    for (const QString& problem : comparison.oldSide().problems() + comparison.newSide().problems())
+        fail(Incomplete, problem);
+    const Report report(comparison, options.oldDirectory, options.directory);
+    const QByteArray html = report.html();
+    QSaveFile file(options.report);
+    if (!file.open(QIODevice::WriteOnly) || file.write(html) != html.size() || !file.commit())
+        return fail(Incomplete, QStringLiteral("cannot write %1: %2").arg(options.report, file.errorString()));
+    std::printf("%s\n", qPrintable(report.verdict()));
+    if (!comparison.isComplete())
+        return Incomplete;
+    return comparison.changes().isEmpty() ? Success : Failure;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
     if (Options::needsNoDisplay(argc, argv) && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         // The handlers still ask for a screen.
-        qputenv("QT_QPA_PLATFORM", "minimal");
+        qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
         qputenv("QT_FONT_DPI", "96");
     }
     // Draws the same picture on every machine, with or without a GPU.
@@ -125,5 +150,7 @@ int main(int argc, char* argv[])
 
     Options options;
     const QString wrongUsage = options.parse(argc, argv);
-    return wrongUsage.isEmpty() ? run(options) : fail(WrongUsage, wrongUsage);
+    if (!wrongUsage.isEmpty())
+        return fail(WrongUsage, wrongUsage);
+    return options.report.isEmpty() ? run(options) : compare(options);
 }

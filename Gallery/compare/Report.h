@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Gallery/compare/Comparison.h"
+#include "Gallery/compare/ValuePicture.h"
+
+namespace Gallery
+{
+
+/// A comparison as one HTML file, which needs neither other files nor JavaScript.
+class Report
+{
+public:
+    /// The names are shown as those of the two directories. The comparison must outlive the report.
+    Report(const Comparison& resourceComparison, const QString& oldDirectory, const QString& newDirectory);
+
+    QByteArray html() const;
+
+    /// What has changed, in a sentence.
+    QString verdict() const;
+
+private:
+    QString summary() const;
+    QString problems() const;
+    QString section(Snapshot::Kind kind) const;
+    QString table(const QVector<Comparison::Change>& changes) const;
+    QString row(const Comparison::Change& change) const;
+
+    const Comparison& comparison;
+    const QString oldName;
+    const QString newName;
+    const ValuePicture picture;
+};
+
+} // namespace Gallery
