@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing:
-# install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs] [--package] [--cross]
+# install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs] [--package] [--cross] [--browser]
 # --lint adds the second compiler with its fuzzing library, the formatter, the linters and the spelling checker.
 # --benchmark adds the benchmark library, the libraries to compare with, and the tools that count and plot.
 # --valgrind adds valgrind.
 # --docs adds the generator of the reference.
 # --package adds the tools that build and check packages, and the QML linter that reads the installed types.
 # --cross adds the compiler and the emulator for 64-bit ARM.
+# --browser adds the browser in which a test opens the gallery's report.
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
 
@@ -25,6 +26,7 @@ for option in "$@"; do
     --docs) packages+=(doxygen) ;;
     --cross) packages+=(g++-aarch64-linux-gnu qemu-user mmdebstrap) ;;
     --valgrind) packages+=(valgrind libc6-dbg) ;;
+    --browser) packages+=(chromium) ;;
     --benchmark) packages+=(
       libbenchmark-dev libkf5config-dev libkf5iconthemes-dev libglib2.0-dev
       strace valgrind libc6-dbg binutils python3-matplotlib

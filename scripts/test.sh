@@ -21,8 +21,8 @@ if [ "$preset" = --valgrind ]; then
   done
   exit
 fi
-options=()
-[ "$preset" != ci ] || options=(--lint --benchmark) # clang, and what the benchmarks need
+options=(--browser)
+[ "$preset" != ci ] || options+=(--lint --benchmark) # clang, and what the benchmarks need
 ./scripts/install-dependencies.sh "${options[@]}"
 ./scripts/build.sh "$preset"
 ctest --preset "$preset"
