@@ -33,15 +33,29 @@ Session::Session(std::unique_ptr<QmlHost::Source> source)
 
 void Session::waitForSource(int milliseconds)
 {
-    if (ui.isReady() || !ui.problem().isEmpty())
-        return;
     QEventLoop loop;
+    const auto isDone = [this] {
+        return (ui.isReady() || !ui.problem().isEmpty()) && (!comparison || comparison->revision() > 0);
+    };
+    const auto quitWhenDone = [&] {
+        if (isDone())
+            loop.quit();
+    };
+    QObject::connect(&ui, &TarnisUi::readyChanged, &loop, quitWhenDone);
+    QObject::connect(&ui, &TarnisUi::problemChanged, &loop, quitWhenDone);
+    if (comparison)
+        QObject::connect(&*comparison, &LiveComparison::changed, &loop, quitWhenDone);
     QTimer timer;
-    QObject::connect(&ui, &TarnisUi::readyChanged, &loop, &QEventLoop::quit);
-    QObject::connect(&ui, &TarnisUi::problemChanged, &loop, &QEventLoop::quit);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     timer.start(milliseconds);
-    loop.exec();
+    if (!isDone())
+        loop.exec();
+}
+
+void Session::compareWith(const QString& oldDirectory)
+{
+    comparison.emplace(ui, oldDirectory);
+    view.addPage(QStringLiteral("Compare"));
 }
 
 void Session::setFrontEnd(const QString& qmlFile)
@@ -58,6 +72,8 @@ void Session::publish()
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "DimensionCatalog", &catalogs.dimensions);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "IconCatalog", &catalogs.icons);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "TextCatalog", &catalogs.texts);
+    if (comparison)
+        qmlRegisterSingletonInstance("Tarnis", 1, 0, "Comparison", &*comparison);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "View", &view);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
     qmlRegisterSingletonInstance("Tarnis", 1, 0, "Preview", &preview);

@@ -4,10 +4,12 @@
 #include "Gallery/View.h"
 #include "Gallery/catalog/Catalogs.h"
 #include "Gallery/findings/Findings.h"
+#include "Gallery/compare/LiveComparison.h"
 #include "Gallery/frontend/LivePreview.h"
 #include "QmlHost/TarnisUi.h"
 
 #include <memory>
+#include <optional>
 
 namespace Gallery
 {
@@ -17,11 +19,14 @@ struct Session {
     /// Starts to ask the source.
     explicit Session(std::unique_ptr<QmlHost::Source> source);
 
-    /// Waits for the first answer or the first problem, but not longer than this.
+    /// Waits for the first answer or the first problem, and for the first comparison, but not longer than this.
     void waitForSource(int milliseconds);
 
     /// Shows this QML file on the page Device instead of the sample front end. Call it before publish().
     void setFrontEnd(const QString& qmlFile);
+
+    /// Adds a page that compares the resources with those of an older state. Call it before publish().
+    void compareWith(const QString& oldDirectory);
 
     /// Makes the singletons known to the QML engine that is created next. The session must outlive the engine.
     void publish();
@@ -32,6 +37,7 @@ struct Session {
     Catalogs catalogs;
     View view;
     LivePreview preview;
+    std::optional<LiveComparison> comparison;
 };
 
 } // namespace Gallery

@@ -34,6 +34,12 @@ void View::dropSampleScreens()
     Q_EMIT changed();
 }
 
+void View::addPage(const QString& name)
+{
+    pageNames.insert(pageNames.size() - 1, name);
+    Q_EMIT changed();
+}
+
 QString View::page() const
 {
     return pageName;

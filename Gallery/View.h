@@ -37,6 +37,8 @@ public:
     QStringList pages() const;
     /// Leaves out the pages for the further screens of the sample front end.
     void dropSampleScreens();
+    /// Adds a page before the last one, the log.
+    void addPage(const QString& name);
     QString page() const;
     void setPage(const QString& name);
     QString context() const;

@@ -86,6 +86,8 @@ int run(const Options& options)
 {
     Session session(options.directory.isEmpty() ? TarnisUi::service(TarnisUi::Files::Followed)
                                                 : TarnisUi::directory(options.directory));
+    if (!options.oldDirectory.isEmpty())
+        session.compareWith(options.oldDirectory);
     apply(options, session);
     const auto reportProblem = [&session] {
         if (!session.ui.problem().isEmpty())
@@ -125,7 +127,7 @@ int compare(const Options& options)
     QSaveFile file(options.report);
     if (!file.open(QIODevice::WriteOnly) || file.write(html) != html.size() || !file.commit())
         return fail(Incomplete, QStringLiteral("cannot write %1: %2").arg(options.report, file.errorString()));
-    std::printf("%s\n", qPrintable(report.verdict()));
+    std::printf("%s\n", qPrintable(comparison.verdict()));
     if (!comparison.isComplete())
         return Incomplete;
     return comparison.changes().isEmpty() ? Success : Failure;

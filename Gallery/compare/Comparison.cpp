@@ -3,6 +3,7 @@
 #include <QCollator>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Gallery
 {
@@ -26,6 +27,11 @@ bool isDifferent(const Comparison::Change& change)
     return change.type() != Comparison::Changed || change.oldValue->identity != change.newValue->identity;
 }
 
+QString signedNumber(double number)
+{
+    return (number < 0 ? QStringLiteral("−") : QStringLiteral("+")) + QString::number(std::abs(number));
+}
+
 void sort(QVector<Comparison::Change>& changes)
 {
     QCollator collator(QLocale(QLocale::English)); // the order does not depend on the user's language
@@ -44,6 +50,21 @@ Comparison::Type Comparison::Change::type() const
     if (!oldValue)
         return Added;
     return newValue ? Changed : Removed;
+}
+
+QString Comparison::Change::difference() const
+{
+    if (type() != Changed)
+        return QString();
+    bool areNumbers[] = {false, false};
+    const double oldNumber = oldValue->identity.toDouble(&areNumbers[0]);
+    const double newNumber = newValue->identity.toDouble(&areNumbers[1]);
+    if ((kind != Snapshot::Dimension && kind != Snapshot::Font) || !areNumbers[0] || !areNumbers[1])
+        return QString();
+    const double pixels = newNumber - oldNumber;
+    const double percent = std::round(1000 * pixels / std::abs(oldNumber)) / 10;
+    return signedNumber(pixels) + QStringLiteral(" px")
+        + (oldNumber == 0 ? QString() : QStringLiteral(" (%1 %)").arg(signedNumber(percent)));
 }
 
 Comparison::Comparison(const Snapshot& oldSnapshot, const Snapshot& newSnapshot)
@@ -77,9 +98,30 @@ QVector<Comparison::Change> Comparison::changes(Snapshot::Kind kind, Type type) 
     return found;
 }
 
+QString Comparison::verdict() const
+{
+    QStringList counts;
+    for (const Type type : types()) {
+        const auto isOfType = [type](const Change& change) { return change.type() == type; };
+        const auto count = std::count_if(allChanges.begin(), allChanges.end(), isOfType);
+        if (count > 0)
+            counts.append(QStringLiteral("%1 %2").arg(count).arg(title(type).toLower()));
+    }
+    const QString changed =
+        counts.isEmpty() ? QStringLiteral("Nothing has changed") : counts.join(QStringLiteral(", "));
+    const QString incomplete = isComplete() ? QString() : QStringLiteral("; not everything could be read and compared");
+    return changed + incomplete + QLatin1Char('.');
+}
+
 bool Comparison::isComplete() const
 {
     return oldState.problems().isEmpty() && newState.problems().isEmpty();
+}
+
+const QVector<Comparison::Type>& Comparison::types()
+{
+    static const QVector<Type> all{Changed, Added, Removed};
+    return all;
 }
 
 QString Comparison::title(Snapshot::Kind kind)

@@ -25,6 +25,9 @@ public:
         std::optional<Snapshot::Value> newValue; ///< None if removed.
 
         Type type() const;
+
+        /// Of two numbers, in pixels and percent: `+4 px (+10 %)`; empty for other values.
+        QString difference() const;
     };
 
     Comparison() = default;
@@ -38,8 +41,14 @@ public:
 
     QVector<Change> changes(Snapshot::Kind kind, Type type) const;
 
+    /// What has changed, in a sentence.
+    QString verdict() const;
+
     /// Whether both sides could be read completely.
     bool isComplete() const;
+
+    /// All types, in the order in which people read them.
+    static const QVector<Type>& types();
 
     /// The name of a kind, in the plural: `Colors`.
     static QString title(Snapshot::Kind kind);

@@ -4,38 +4,13 @@
 
 #include <QFile>
 
-#include <algorithm>
-#include <cmath>
-
 namespace Gallery
 {
 
 namespace
 {
 
-constexpr Comparison::Type types[] = {Comparison::Changed, Comparison::Added, Comparison::Removed};
 constexpr int rowsPerTable = 200; // browsers lay out a table as a whole, but only the tables that are visible
-
-QString signedNumber(double number)
-{
-    return (number < 0 ? QStringLiteral("−") : QStringLiteral("+")) + QString::number(std::abs(number));
-}
-
-// Of numbers, in pixels and percent; empty for other values.
-QString difference(const Comparison::Change& change)
-{
-    if (change.type() != Comparison::Changed)
-        return QString();
-    bool areNumbers[] = {false, false};
-    const double oldNumber = change.oldValue->identity.toDouble(&areNumbers[0]);
-    const double newNumber = change.newValue->identity.toDouble(&areNumbers[1]);
-    if (!areNumbers[0] || !areNumbers[1])
-        return QString();
-    const double pixels = newNumber - oldNumber;
-    const double percent = std::round(1000 * pixels / std::abs(oldNumber)) / 10;
-    return signedNumber(pixels) + QStringLiteral(" px")
-        + (oldNumber == 0 ? QString() : QStringLiteral(" (%1 %)").arg(signedNumber(percent)));
-}
 
 bool hasDifference(const Comparison::Change& change)
 {
@@ -71,25 +46,9 @@ QByteArray Report::html() const
     for (const Snapshot::Kind kind : Snapshot::kinds())
         sections += section(kind);
     const QString page = QString::fromUtf8(file.readAll());
-    return page.arg(Html::escaped(oldName), Html::escaped(newName), verdict(), summary(), problems(), sections)
+    return page
+        .arg(Html::escaped(oldName), Html::escaped(newName), comparison.verdict(), summary(), problems(), sections)
         .toUtf8();
-}
-
-QString Report::verdict() const
-{
-    QStringList counts;
-    for (const Comparison::Type type : types) {
-        const auto isOfType = [type](const Comparison::Change& change) { return change.type() == type; };
-        const auto& changes = comparison.changes();
-        const auto count = std::count_if(changes.begin(), changes.end(), isOfType);
-        if (count > 0)
-            counts.append(QStringLiteral("%1 %2").arg(count).arg(Comparison::title(type).toLower()));
-    }
-    const QString changed =
-        counts.isEmpty() ? QStringLiteral("Nothing has changed") : counts.join(QStringLiteral(", "));
-    const QString incomplete =
-        comparison.isComplete() ? QString() : QStringLiteral("; not everything could be read and compared");
-    return changed + incomplete + QLatin1Char('.');
 }
 
 QString Report::summary() const
@@ -98,7 +57,7 @@ QString Report::summary() const
     for (const Snapshot::Kind kind : Snapshot::kinds()) {
         QString cells;
         int sum = 0;
-        for (const Comparison::Type type : types) {
+        for (const Comparison::Type type : Comparison::types()) {
             const int count = comparison.changes(kind, type).size();
             sum += count;
             cells += Html::element(QStringLiteral("td"), QString(), QString::number(count));
@@ -132,7 +91,7 @@ QString Report::problems() const
 QString Report::section(Snapshot::Kind kind) const
 {
     QString groups;
-    for (const Comparison::Type type : types) {
+    for (const Comparison::Type type : Comparison::types()) {
         const QVector<Comparison::Change> changes = comparison.changes(kind, type);
         if (changes.isEmpty())
             continue;
@@ -174,7 +133,7 @@ QString Report::row(const Comparison::Change& change) const
         cells += Html::element(QStringLiteral("td"), QString(), change.key.variant);
     cells += cell(picture.html(change, false)) + cell(picture.html(change, true));
     if (hasDifference(change))
-        cells += Html::element(QStringLiteral("td"), QStringLiteral(R"( class="number")"), difference(change));
+        cells += Html::element(QStringLiteral("td"), QStringLiteral(R"( class="number")"), change.difference());
     return QStringLiteral("<tr>%1</tr>\n").arg(cells);
 }
 

@@ -15,9 +15,6 @@ public:
 
     QByteArray html() const;
 
-    /// What has changed, in a sentence.
-    QString verdict() const;
-
 private:
     QString summary() const;
     QString problems() const;

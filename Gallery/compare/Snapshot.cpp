@@ -5,6 +5,7 @@
 #include "ResourceFormat/IniParser.h"
 #include "ResourceFormat/Language.h"
 #include "ResourceFormat/RegularFile.h"
+#include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconHandler.h"
 
 #include <QColor>
@@ -107,6 +108,12 @@ const Snapshot::Values& Snapshot::values(Kind kind) const
     static const Values none;
     const auto found = valuesByKind.find(kind);
     return found == valuesByKind.end() ? none : *found;
+}
+
+QString Snapshot::fontFamily(const QString& fontName) const
+{
+    const QString group = fontName.left(fontName.lastIndexOf(QLatin1Char('/')) + 1);
+    return values(Font).value({group + TarnisFontHandler::familyKey, QString()}).text;
 }
 
 bool Snapshot::isReadable(Kind kind, const QString& variant) const

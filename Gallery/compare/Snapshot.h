@@ -50,6 +50,9 @@ public:
 
     const Values& values(Kind kind) const;
 
+    /// The font family of the group that the name of a font value begins with.
+    QString fontFamily(const QString& fontName) const;
+
     /// Whether values of this kind and variant are known. If not, their absence means nothing.
     bool isReadable(Kind kind, const QString& variant = QString()) const;
 

@@ -81,11 +81,9 @@ QString ValuePicture::color(const Snapshot::Value& value) const
 QString ValuePicture::font(const Comparison::Change& change, bool isNew) const
 {
     const Snapshot& side = isNew ? comparison.newSide() : comparison.oldSide();
-    const QString group = change.key.name.section(QLatin1Char('/'), 0, -2);
-    const QString familyName = group + QLatin1Char('/') + TarnisFontHandler::familyKey;
-    const QString family = side.values(Snapshot::Font).value({familyName, QString()}).text;
+    const QString family = side.fontFamily(change.key.name);
     const QString text = (isNew ? change.newValue : change.oldValue)->text;
-    const bool isFamily = change.key.name == familyName;
+    const bool isFamily = change.key.name.endsWith(QLatin1Char('/') + TarnisFontHandler::familyKey);
     bool isSize = false;
     const double size = text.toDouble(&isSize);
     if (!isFamily && (!isSize || size <= 0))
