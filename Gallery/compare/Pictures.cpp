@@ -14,18 +14,17 @@ namespace Gallery::Pictures
 namespace
 {
 
-constexpr int iconPixels = 96;
 constexpr double lightMean = 140; // of 255
 
 } // namespace
 
-QImage icon(const QString& path, QSize& size)
+QImage icon(const QString& path, int pixels, QSize& size)
 {
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true); // as QML does
     size = reader.size();
     if (size.isValid())
-        reader.setScaledSize(size.scaled(iconPixels, iconPixels, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+        reader.setScaledSize(size.scaled(pixels, pixels, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     return reader.read();
 }
 

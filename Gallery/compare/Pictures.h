@@ -11,8 +11,9 @@ namespace Gallery::Pictures
 /// Pixels of a font sample per pixel of the font.
 constexpr int sampleScale = 2;
 
-/// The icon, as large as fits into 96x96 pixels; null if the file is not an image. `size` is the size of the icon.
-QImage icon(const QString& path, QSize& size);
+/// The icon, as large as fits into a square of this many pixels; null if the file is not an image. `size` is the own
+/// size of the icon.
+QImage icon(const QString& path, int pixels, QSize& size);
 
 /// Whether the visible pixels are light in the mean, so that the icon needs a dark background.
 bool isLight(const QImage& icon);

@@ -13,7 +13,8 @@ namespace
 {
 
 constexpr int longestBar = 240; // CSS pixels
-constexpr int iconScale = 2;    // sharp on displays with up to two pixels per CSS pixel
+constexpr int iconPixels = 48;  // CSS pixels
+constexpr int manyIcons = 1000;
 constexpr int familySamplePixels = 28;
 constexpr int largestFontPixels = 200;
 
@@ -28,12 +29,15 @@ ValuePicture::ValuePicture(const Comparison& resourceComparison)
     : comparison(resourceComparison)
 {
     int longest = 0;
+    int icons = 0;
     for (const Comparison::Change& change : comparison.changes()) {
+        icons += change.kind == Snapshot::Icon ? 1 : 0;
         for (const auto& value : {change.oldValue, change.newValue}) {
             if (change.kind == Snapshot::Dimension && value)
                 longest = std::max(longest, value->identity.toInt());
         }
     }
+    iconScale = icons > manyIcons ? 1 : 2;
     barScale = 1 + (std::max(longest, 1) - 1) / longestBar;
 }
 
@@ -115,7 +119,7 @@ QString ValuePicture::icon(const Snapshot::Value& value) const
     if (value.path.isEmpty())
         return caption(QStringLiteral("missing: ") + value.text);
     QSize size;
-    const QImage picture = Pictures::icon(value.path, size);
+    const QImage picture = Pictures::icon(value.path, iconPixels * iconScale, size);
     if (picture.isNull())
         return caption(QStringLiteral("not an image: ") + value.text);
     const QString words =

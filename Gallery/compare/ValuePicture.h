@@ -28,6 +28,7 @@ private:
 
     const Comparison& comparison;
     int barScale = 1;
+    int iconScale = 1; // pixels per CSS pixel; two are sharp on more displays, but make the file four times as large
 };
 
 } // namespace Gallery
