@@ -29,7 +29,7 @@ struct Parser : QCommandLineParser {
                               QStringLiteral("Resource directory to show. It needs no bus and no service."),
                               QStringLiteral("[DIR]"));
         addOptions({qml, language, context, display, page, theme, size, editor, screenshot, screenshotAll, dump});
-        addOptions({compare, report});
+        addOptions({contactSheet, compare, report});
     }
 
     const QString name = QStringLiteral("NAME");
@@ -69,12 +69,17 @@ struct Parser : QCommandLineParser {
         QStringLiteral("Program that opens a file from the page Findings, with {file}, {line} and {column}; "
                        "the default is the program of the desktop."),
         QStringLiteral("COMMAND")};
+    const QCommandLineOption contactSheet{
+        QStringLiteral("contact-sheet"),
+        QStringLiteral("Write one picture of the front end in every display size, icon context and language and exit."),
+        QStringLiteral("FILE.png")};
     const QCommandLineOption compare{QStringLiteral("compare"),
                                      QStringLiteral("Compare DIR, the new state, with OTHER_DIR, the old one."),
                                      QStringLiteral("OTHER_DIR")};
     const QCommandLineOption report{
         QStringLiteral("report"),
-        QStringLiteral("With --compare: write the differences as one HTML file and exit. Needs no display."),
+        QStringLiteral("With --compare: write the differences as one HTML file and exit. The pictures of the front "
+                       "end need a display, all others do not."),
         QStringLiteral("FILE.html")};
     const QCommandLineOption help = addHelpOption();
     const QCommandLineOption version = addVersionOption();
@@ -89,16 +94,25 @@ QString unknown(const char* what, const QString& value, const QStringList& known
         .arg(QLatin1String(what), value, known.join(QStringLiteral(", ")));
 }
 
+// Whether one of the options is given, with or without a value behind "=".
+bool contains(int argc, char* argv[], std::initializer_list<const char*> options)
+{
+    return std::any_of(argv, argv + argc, [options](const char* argument) {
+        const QByteArray name = QByteArray(argument).split('=').constFirst();
+        return std::find(options.begin(), options.end(), name) != options.end();
+    });
+}
+
 } // namespace
 
 bool Options::needsNoDisplay(int argc, char* argv[])
 {
-    return std::any_of(argv, argv + argc, [](const char* argument) {
-        const QString name = QString::fromLocal8Bit(argument).section(QLatin1Char('='), 0, 0);
-        return QStringList{QStringLiteral("--dump"), QStringLiteral("--help"), QStringLiteral("--report"),
-                           QStringLiteral("--version")}
-            .contains(name);
-    });
+    return contains(argc, argv, {"--dump", "--help", "--version"}) || isReport(argc, argv);
+}
+
+bool Options::isReport(int argc, char* argv[])
+{
+    return contains(argc, argv, {"--report"});
 }
 
 QString Options::parse(int argc, char* argv[])
@@ -134,6 +148,7 @@ QString Options::parse(int argc, char* argv[])
     screenshotDirectory = parser.value(parser.screenshotAll);
     editor = parser.value(parser.editor);
     isDump = parser.isSet(parser.dump);
+    contactSheet = parser.value(parser.contactSheet);
     oldDirectory = parser.value(parser.compare);
     report = parser.value(parser.report);
     if (!report.isEmpty() && (oldDirectory.isEmpty() || directory.isEmpty()))
@@ -159,7 +174,7 @@ QString Options::check(const Session& session) const
 
 bool Options::isInteractive() const
 {
-    return !isDump && screenshot.isEmpty() && screenshotDirectory.isEmpty();
+    return !isDump && screenshot.isEmpty() && screenshotDirectory.isEmpty() && contactSheet.isEmpty();
 }
 
 } // namespace Gallery

@@ -13,6 +13,9 @@ struct Options {
     /// Whether the arguments ask for something that needs no display. Call it before Qt starts.
     static bool needsNoDisplay(int argc, char* argv[]);
 
+    /// Whether the arguments ask for the report of a comparison. Call it before Qt starts.
+    static bool isReport(int argc, char* argv[]);
+
     /// Returns what is wrong with the arguments; a null string if nothing is. Ends the process for --help and
     /// --version.
     QString parse(int argc, char* argv[]);
@@ -34,6 +37,7 @@ struct Options {
     QSize windowSize; ///< Invalid if it is not given.
     QString screenshot;
     QString screenshotDirectory;
+    QString contactSheet;
     QString oldDirectory; ///< To compare with; empty for no comparison.
     QString report;
     bool isDump = false;

@@ -3,6 +3,8 @@
 #include "Gallery/Options.h"
 #include "Gallery/Screenshots.h"
 #include "Gallery/Session.h"
+#include "Gallery/compare/ContactSheet.h"
+#include "Gallery/compare/FrontEndPictures.h"
 #include "Gallery/compare/Report.h"
 
 #include <QGuiApplication>
@@ -39,6 +41,15 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+// The exit status after pictures were taken, which depends on what was logged meanwhile.
+int judgeLookups(Session& session)
+{
+    const QStringList failedLookups = session.log.takeNew();
+    if (!failedLookups.isEmpty())
+        return fail(Failure, QStringLiteral("lookups failed:\n") + failedLookups.join(QLatin1Char('\n')));
+    return session.ui.problem().isEmpty() ? Success : Failure;
+}
+
 int takePictures(QQuickWindow& window, Session& session, const Options& options)
 {
     Screenshots screenshots(window, session);
@@ -48,10 +59,26 @@ int takePictures(QQuickWindow& window, Session& session, const Options& options)
         return fail(Failure,
                     QStringLiteral("cannot draw or write %1").arg(options.screenshot + options.screenshotDirectory));
     }
-    const QStringList failedLookups = session.log.takeNew();
-    if (!failedLookups.isEmpty())
-        return fail(Failure, QStringLiteral("lookups failed:\n") + failedLookups.join(QLatin1Char('\n')));
-    return session.ui.problem().isEmpty() ? Success : Failure;
+    return judgeLookups(session);
+}
+
+int takeContactSheet(Session& session, const Options& options)
+{
+    session.log.takeNew(); // what comes after it is of lookups
+    FrontEndPictures frontEnd(session.ui, LivePreview::urlOf(options.qmlFile));
+    const QString resources = options.directory.isEmpty() ? QStringLiteral("the service") : options.directory;
+    ContactSheet sheet(QStringLiteral("%1 with %2").arg(session.preview.name(), resources),
+                       session.catalogs.dimensions.displays(), session.catalogs.icons.contexts(),
+                       session.ui.languages());
+    const QImage picture =
+        sheet.draw([&frontEnd](const QString& display, const QString& context, const QString& language) {
+            return frontEnd.draw(display, context, language);
+        });
+    if (!frontEnd.problem().isEmpty())
+        return fail(Failure, frontEnd.problem());
+    if (!picture.save(options.contactSheet, "PNG"))
+        return fail(Failure, QStringLiteral("cannot draw or write %1").arg(options.contactSheet));
+    return judgeLookups(session);
 }
 
 int show(Session& session, const Options& options)
@@ -106,6 +133,8 @@ int run(const Options& options)
             QGuiApplication::exit(WrongUsage);
     });
     session.publish();
+    if (!options.contactSheet.isEmpty())
+        return takeContactSheet(session, options);
     if (!options.isDump)
         return show(session, options);
     std::fputs(dump(session.catalogs).constData(), stdout);
@@ -122,7 +151,10 @@ int compare(const Options& options)
     const Comparison comparison(snapshot(options.oldDirectory), snapshot(options.directory));
     for (const QString& problem : comparison.oldSide().problems() + comparison.newSide().problems())
         fail(Incomplete, problem);
-    const Report report(comparison, options.oldDirectory, options.directory);
+    const ScreenComparison screens =
+        ScreenComparison::of(options.oldDirectory, options.directory,
+                             {LivePreview::urlOf(options.qmlFile), options.context, options.language});
+    const Report report(comparison, screens, options.oldDirectory, options.directory);
     const QByteArray html = report.html();
     QSaveFile file(options.report);
     if (!file.open(QIODevice::WriteOnly) || file.write(html) != html.size() || !file.commit())
@@ -138,8 +170,9 @@ int compare(const Options& options)
 int main(int argc, char* argv[])
 {
     if (Options::needsNoDisplay(argc, argv) && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        // The handlers still ask for a screen.
-        qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
+        // The handlers still ask for a screen, and the report has pictures of the front end if there is a display.
+        const bool mayDraw = Options::isReport(argc, argv) && qEnvironmentVariableIsSet("DISPLAY");
+        qputenv("QT_QPA_PLATFORM", mayDraw ? "xcb;minimal:enable_fonts" : "minimal:enable_fonts");
         qputenv("QT_FONT_DPI", "96");
     }
     // Draws the same picture on every machine, with or without a GPU.

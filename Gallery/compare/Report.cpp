@@ -1,6 +1,7 @@
 #include "Gallery/compare/Report.h"
 
 #include "Gallery/compare/Html.h"
+#include "Gallery/compare/ScreenSection.h"
 
 #include <QFile>
 
@@ -30,8 +31,10 @@ QString cell(const QString& html)
 
 } // namespace
 
-Report::Report(const Comparison& resourceComparison, const QString& oldDirectory, const QString& newDirectory)
+Report::Report(const Comparison& resourceComparison, const ScreenComparison& screenComparison,
+               const QString& oldDirectory, const QString& newDirectory)
     : comparison(resourceComparison)
+    , screens(screenComparison)
     , oldName(oldDirectory)
     , newName(newDirectory)
     , picture(resourceComparison)
@@ -42,7 +45,7 @@ QByteArray Report::html() const
 {
     QFile file(QStringLiteral(":/compare/report.html"));
     file.open(QIODevice::ReadOnly);
-    QString sections;
+    QString sections = ScreenSection::html(screens);
     for (const Snapshot::Kind kind : Snapshot::kinds())
         sections += section(kind);
     const QString page = QString::fromUtf8(file.readAll());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Gallery/compare/Comparison.h"
+#include "Gallery/compare/ScreenComparison.h"
 #include "Gallery/compare/ValuePicture.h"
 
 namespace Gallery
@@ -10,8 +11,9 @@ namespace Gallery
 class Report
 {
 public:
-    /// The names are shown as those of the two directories. The comparison must outlive the report.
-    Report(const Comparison& resourceComparison, const QString& oldDirectory, const QString& newDirectory);
+    /// The names are shown as those of the two directories. The comparisons must outlive the report.
+    Report(const Comparison& resourceComparison, const ScreenComparison& screenComparison, const QString& oldDirectory,
+           const QString& newDirectory);
 
     QByteArray html() const;
 
@@ -23,6 +25,7 @@ private:
     QString row(const Comparison::Change& change) const;
 
     const Comparison& comparison;
+    const ScreenComparison& screens;
     const QString oldName;
     const QString newName;
     const ValuePicture picture;

@@ -60,7 +60,7 @@ struct LivePreview::Version {
 LivePreview::LivePreview(TarnisUi& tarnisUi, View& galleryView)
     : ui(tarnisUi)
     , view(galleryView)
-    , url(QStringLiteral("qrc:/qml/device/Main.qml"))
+    , url(urlOf(QString()))
     , watcher(this)
 {
     connect(&watcher, &QmlHost::DirectoryWatcher::changed, this, &LivePreview::reloadIfChanged);
@@ -78,9 +78,15 @@ LivePreview::LivePreview(TarnisUi& tarnisUi, View& galleryView)
 
 LivePreview::~LivePreview() = default;
 
+QUrl LivePreview::urlOf(const QString& path)
+{
+    return path.isEmpty() ? QUrl(QStringLiteral("qrc:/qml/device/Main.qml"))
+                          : QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
+}
+
 void LivePreview::setFile(const QString& path)
 {
-    url = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
+    url = urlOf(path);
 }
 
 void LivePreview::load()

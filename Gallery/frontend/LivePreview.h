@@ -40,6 +40,9 @@ public:
     LivePreview(TarnisUi& tarnisUi, View& galleryView);
     ~LivePreview() override;
 
+    /// That of the sample front end if the path is empty.
+    static QUrl urlOf(const QString& path);
+
     /// Shows this file instead of the sample front end. Call it before load().
     void setFile(const QString& path);
 
