@@ -5,6 +5,7 @@
 #include "QmlHost/TarnisUi.h"
 #include "tests/support/DataRows.h"
 #include "tests/support/GalleryFixture.h"
+#include "tests/support/GalleryWindow.h"
 
 #include <QStandardPaths>
 
@@ -100,6 +101,43 @@ private Q_SLOTS:
         const Outcome outcome = run("env", QStringList{"-u", "DISPLAY", TARNIS_GALLERY} + rowTexts("arguments"));
         QCOMPARE(outcome.exitStatus, row()["exitStatus"].toInt());
         QVERIFY2(outcome.errors.contains(row()["message"].toString().toUtf8()), outcome.errors);
+    }
+
+    void reportShowsTheScreenWhereItDiffers()
+    {
+        change("sed -i 's/^height=52/height=90/' dimensions/800x480.ini");
+        const QStringList arguments{fixture->path(), "--compare", RESOURCES, "--report", fixture->path("report.html")};
+        QCOMPARE(run(TARNIS_GALLERY, arguments).exitStatus, 1);
+        QFile file(fixture->path("report.html"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray html = file.readAll();
+        QCOMPARE(html.count("class=\"screen\""), 2);
+        for (const char* const text : {"alt=\"Old front end on 800x480\"", "alt=\"New front end on 800x480\"",
+                                       "The front end looks the same on 1024x600, 1280x800."})
+            QVERIFY2(html.contains(text), text);
+    }
+
+    void pageFollowsBothDirectories()
+    {
+        fixture->copyResources();
+        const QString oldDirectory = fixture->path("old");
+        QCOMPARE(run("cp", {"-r", RESOURCES, oldDirectory}).exitStatus, 0);
+        GalleryWindow window(TarnisUi::directory(fixture->path()), oldDirectory);
+        window.session.view.setPage("Compare");
+        QTRY_VERIFY_WITH_TIMEOUT(window.text().contains("Nothing has changed."), 10000);
+        const auto widen = [](const QString& directory, int width) {
+            const QString command = QString("sed -i 's/^width=80.$/width=%1/' dimensions/800x480.ini").arg(width);
+            QCOMPARE(run("sh", {"-c", "cd $0 && " + command, directory}).exitStatus, 0);
+        };
+        widen(fixture->path(), 801);
+        QTRY_VERIFY_WITH_TIMEOUT(window.text().contains("801 px"), 10000);
+        QVERIFY2(window.text().contains("800 px"), qPrintable(window.text()));
+        widen(oldDirectory, 802);
+        QTRY_VERIFY_WITH_TIMEOUT(window.text().contains("802 px"), 10000);
+        QVERIFY2(!window.text().contains("800 px"), qPrintable(window.text()));
+        writeFile(oldDirectory + "/texts/de.json", "{");
+        QTRY_VERIFY_WITH_TIMEOUT(window.text().contains(oldDirectory + "/texts/de.json:1:"), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(window.text().contains("1 changed; not everything"), 10000);
     }
 
     void browserShowsHostileTextsAsTextsAndEveryPicture_data() { addRows({"background"}); }

@@ -73,7 +73,7 @@ QImage ContactSheet::draw(const Draw& drawPicture)
                 const QRect place = cell(display, context, language);
                 picture.setDevicePixelRatio(1);
                 if (picture.size() != place.size())
-                    picture = picture.scaled(place.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+                    picture = picture.scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
                 painter.fillRect(place.adjusted(-1, -1, 1, 1), edge);
                 painter.drawImage(place.topLeft(), picture);
             }
@@ -105,7 +105,8 @@ int ContactSheet::rowHeight() const
 
 QSize ContactSheet::pictureSize(int display) const
 {
-    return (QSizeF(ResourceFormat::DisplaySize::fromName(displays.at(display))) * scale).toSize();
+    const QSize size = ResourceFormat::DisplaySize::fromName(displays.at(display));
+    return {static_cast<int>(size.width() * scale), static_cast<int>(size.height() * scale)};
 }
 
 QSize ContactSheet::sizeAt(double contentScale) const

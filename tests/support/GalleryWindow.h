@@ -14,10 +14,12 @@ namespace Tests
 class GalleryWindow
 {
 public:
-    /// Does not wait for the source.
-    explicit GalleryWindow(std::unique_ptr<QmlHost::Source> source)
+    /// Does not wait for the source. Compares with the old directory unless its path is empty.
+    explicit GalleryWindow(std::unique_ptr<QmlHost::Source> source, const QString& oldDirectory = QString())
         : session(std::move(source))
     {
+        if (!oldDirectory.isEmpty())
+            session.compareWith(oldDirectory);
         session.publish();
         engine.load(QUrl("qrc:/qml/Main.qml"));
         window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
