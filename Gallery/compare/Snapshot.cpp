@@ -1,6 +1,5 @@
 #include "Gallery/compare/Snapshot.h"
 
-#include "Gallery/LastGoodFiles.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/IniParser.h"
 #include "ResourceFormat/Language.h"
@@ -177,11 +176,12 @@ void Snapshot::readTexts(const QString& folder, const QStringList& languages)
         const QString path = folder + QLatin1Char('/') + ResourceFormat::Language::fileName(language);
         QString reason;
         const QByteArray content = RegularFile::readAll(path, reason);
-        if (!reason.isNull() || !LastGoodFiles::jsonFault(path, content).isNull()) {
+        const QJsonDocument document = QJsonDocument::fromJson(content);
+        if (!document.isObject()) {
             unreadable.insert({Text, language});
             continue;
         }
-        const QJsonObject texts = QJsonDocument::fromJson(content).object();
+        const QJsonObject texts = document.object();
         for (auto text = texts.begin(); text != texts.end(); ++text) {
             if (text->isString()) {
                 const QString value = text->toString();
