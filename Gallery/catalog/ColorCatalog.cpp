@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Gallery
 {
@@ -88,6 +89,11 @@ double ColorCatalog::contrast(const QString& text, const QString& group, const Q
     if (!isColor(text) || !isColor(color))
         return 0;
     return Contrast::ratio(QColor(text), QColor(color), QColor(colorBehind(group, background)));
+}
+
+QString ColorCatalog::ratioText(double ratio) const
+{
+    return QString::number(std::floor(ratio * 100) / 100, 'f', 2) + QStringLiteral(":1");
 }
 
 QString ColorCatalog::verdict(double ratio) const

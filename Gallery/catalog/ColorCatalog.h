@@ -48,6 +48,9 @@ public:
     /// if one of the two is not a color.
     Q_INVOKABLE double contrast(const QString& text, const QString& group, const QString& background) const;
 
+    /// The contrast ratio with two decimals, rounded down: it never looks like a minimum that it does not meet.
+    Q_INVOKABLE QString ratioText(double ratio) const;
+
     /// Which levels of WCAG 2.1 the contrast ratio meets, in words.
     Q_INVOKABLE QString verdict(double ratio) const;
 

@@ -51,7 +51,8 @@ public:
     /// Names of a text color and its background, each as `group/key`.
     using Pairs = QVector<QPair<QString, QString>>;
 
-    /// `pairs` are those that the convention for keys does not give. Pairs whose colors do not exist are left out.
+    /// `pairs` are those that the convention for keys does not give. A pair within one group counts for all of its
+    /// themes. Pairs whose colors do not exist are left out.
     ColorRows(const QVariantList& entries, const Pairs& pairs);
 
     /// In the order of the file.

@@ -50,6 +50,7 @@ Blocks.Page {
                 contentX = Math.max(0, Math.min(contentX + step, contentWidth - width))
             }
 
+            objectName: "dimensions"
             anchors.top: columns.bottom
             anchors.bottom: parent.bottom
             width: parent.width

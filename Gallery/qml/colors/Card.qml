@@ -14,7 +14,9 @@ Item {
     property int current: -1 // the swatch that the keyboard acts on
 
     function clicked() {
-        swatches.itemAt(current).clicked()
+        const swatch = swatches.itemAt(current)
+        if (swatch && swatch.enabled)
+            swatch.clicked()
     }
 
     Accessible.role: Accessible.Grouping

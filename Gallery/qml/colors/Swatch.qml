@@ -20,8 +20,7 @@ Blocks.Entry {
     readonly property double contrast: ColorCatalog.contrast(value, cell.group, below)
     readonly property int failure: ColorCatalog.failure(contrast)
     readonly property bool isItself: below === cell.key || below === cell.group + "/" + cell.key
-    // Rounded down, so that a value below a minimum never looks like the minimum.
-    readonly property string ratio: contrast > 0 && !isItself ? (Math.floor(contrast * 100) / 100).toFixed(2) + ":1" : ""
+    readonly property string ratio: contrast > 0 && !isItself ? ColorCatalog.ratioText(contrast) : ""
     readonly property string fault: isMissing ? cell.missing + " is missing"
         : !isColor || isSample && !ColorCatalog.isColor(backgroundColor) ? "not a color" : ""
 

@@ -53,6 +53,7 @@ Rectangle {
     Box {
         id: box
 
+        objectName: "box"
         anchors.top: head.bottom
         anchors.bottom: parent.bottom
         anchors.margins: Theme.medium
