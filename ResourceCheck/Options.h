@@ -15,8 +15,8 @@ struct Options {
     /// if nothing is wrong.
     QString parse(const QStringList& arguments);
 
-    /// What --help, --version, --list-rules, --list-records or --explain print. If it is not empty, there is nothing else to do, and
-    /// the other members are not set.
+    /// What --help, --version, --list-rules, --list-records or --explain print. If it is not empty, there is nothing
+    /// else to do, and the other members are not set.
     QByteArray information;
 
     QString directory;

@@ -82,7 +82,7 @@ private Q_SLOTS:
     void keysReachEverySwatchAndCopyItsExpression()
     {
         const GalleryFixture fixture;
-        writeFile(fixture.path("colors.ini"), "[Day]\nA=red\nB=red\n[Night]\nA=blue\n");
+        writeFile(fixture.path("colors.ini"), "[Day]\nA=red\nB=red\nC=red\n[Night]\nC=blue\nA=blue\n");
         GalleryWindow gallery(TarnisUi::directory(fixture.path()));
         gallery.session.view.setPage("Colors");
         QVERIFY(QTest::qWaitForWindowActive(gallery.window, 10000));

@@ -1,6 +1,7 @@
 #include "Gallery/catalog/ColorRows.h"
 
 #include "ResourceFormat/Contrast.h"
+#include "ResourceFormat/Themes.h"
 
 #include <algorithm>
 
@@ -49,7 +50,9 @@ QVector<QStringList> ColorRows::themes() const
 {
     QVector<QStringList> all;
     for (const QString& group : groups) {
-        const auto isSimilar = [&](const QStringList& theme) { return areThemes(theme.constFirst(), group); };
+        const auto isSimilar = [&](const QStringList& theme) {
+            return ResourceFormat::Themes::areThemes(keys.value(theme.constFirst()), keys.value(group));
+        };
         const auto theme = std::find_if(all.begin(), all.end(), isSimilar);
         if (theme == all.end())
             all.append(QStringList(group));
@@ -57,14 +60,6 @@ QVector<QStringList> ColorRows::themes() const
             theme->append(group);
     }
     return all;
-}
-
-bool ColorRows::areThemes(const QString& group, const QString& other) const
-{
-    const QStringList first = keys.value(group);
-    const QStringList second = keys.value(other);
-    const auto shared = std::count_if(first.begin(), first.end(), [&](const QString& key) { return has(other, key); });
-    return 2 * shared >= std::max(first.size(), second.size());
 }
 
 QStringList ColorRows::keysOf(const QStringList& theme) const

@@ -42,9 +42,8 @@ public:
     QVariantList cells; ///< Of ColorCell, in the order of the groups in the file.
 };
 
-/// Arranges the entries of a color file in rows. Groups are themes of each other, such as day and night, if they share
-/// at least half of the keys of the larger one. Below the row of a text color there is one row for each background that
-/// it is paired with.
+/// Arranges the entries of a color file in rows. Groups that ResourceFormat::Themes calls themes, such as day and
+/// night, are side by side. The row of a text color is followed by one row for each background that it is paired with.
 class ColorRows
 {
 public:
@@ -60,7 +59,6 @@ public:
 
 private:
     QVector<QStringList> themes() const;
-    bool areThemes(const QString& group, const QString& other) const;
     QStringList keysOf(const QStringList& theme) const;
     QStringList backgroundKeysOf(const QStringList& theme, const QString& key) const;
     ColorRow row(const QStringList& theme, const QString& key, const QString& backgroundKey) const;

@@ -1,10 +1,9 @@
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/rules/Rule.h"
 #include "ResourceFormat/Contrast.h"
+#include "ResourceFormat/Themes.h"
 
 #include <QSet>
-
-#include <algorithm>
 
 namespace ResourceCheck
 {
@@ -70,14 +69,6 @@ void checkContrast(const Project& project, const Report& report)
     }
 }
 
-// Groups are themes of each other if they share more than half of their keys.
-bool areThemes(const QStringList& keys, const QStringList& others)
-{
-    const auto isShared = [&others](const QString& key) { return others.contains(key); };
-    const auto shared = std::count_if(keys.begin(), keys.end(), isShared);
-    return 2 * shared > qMax(keys.size(), others.size());
-}
-
 void checkThemes(const Project& project, const Report& report)
 {
     const IniFile& file = project.resources.colors;
@@ -87,7 +78,7 @@ void checkThemes(const Project& project, const Report& report)
         const QStringList keys = file.content().keys(owner);
         for (const QString& group : groups) {
             const QStringList others = file.content().keys(group);
-            for (const QString& key : areThemes(keys, others) ? keys : QStringList()) {
+            for (const QString& key : ResourceFormat::Themes::areThemes(keys, others) ? keys : QStringList()) {
                 if (others.contains(key) || reported.contains({group, key}))
                     continue;
                 reported.insert({group, key});

@@ -9,7 +9,7 @@ Rectangle {
     property var displays
     property string shown
     property int scrolled: 0
-    readonly property int leastColumnWidth: 88
+    readonly property int leastColumnWidth: 96
     readonly property int nameWidth: Math.max(130, Math.min(220, width - displays.length * leastColumnWidth))
     readonly property int columnWidth: Math.max(leastColumnWidth, (width - nameWidth) / Math.max(1, displays.length))
     readonly property int comfortableWidth: 220 + displays.length * 130
