@@ -21,7 +21,6 @@ Blocks.Page {
     emptyText: "The dimension files contain no dimensions."
     controls: Blocks.Caption {
         width: parent.width
-        visible: !page.isEmpty
         wrapMode: Text.Wrap
         text: "Marked: missing or not an integer; more than twice or less than half of what the growth of the other "
             + "dimensions suggests; smaller than on a smaller display. Select a row for the reason."
