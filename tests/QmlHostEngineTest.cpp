@@ -17,20 +17,27 @@ namespace Tests
 namespace
 {
 
-// One more screen of the platform.
-class Screen : public QPlatformScreen
+// One more screen of the platform, which is the primary one.
+class PrimaryScreen : public QPlatformScreen
 {
 public:
-    explicit Screen(const QSize& screenSize)
+    explicit PrimaryScreen(const QSize& screenSize)
         : size(screenSize)
     {
+        QWindowSystemInterface::handleScreenAdded(this, true);
     }
+
     QRect geometry() const override { return {QPoint(), size}; }
     int depth() const override { return 32; }
     QImage::Format format() const override { return QImage::Format_RGB32; }
 
 private:
     const QSize size;
+};
+
+// Qt deletes it.
+struct Removal {
+    void operator()(PrimaryScreen* screen) const { QWindowSystemInterface::handleScreenRemoved(screen); }
 };
 
 } // namespace
@@ -121,13 +128,12 @@ private Q_SLOTS:
         };
         auto* const fonts = page["fonts"].value<QObject*>();
         auto* const dimensions = page["dimensions"].value<QObject*>();
-        auto* const screen = new Screen({800, 480});
-        QWindowSystemInterface::handleScreenAdded(screen, true);
+        std::unique_ptr<PrimaryScreen, Removal> screen(new PrimaryScreen({800, 480}));
         QCOMPARE(QGuiApplication::primaryScreen()->size(), QSize(800, 480));
         QVERIFY(page["fonts"].value<QObject*>() != fonts && page["dimensions"].value<QObject*>() != dimensions);
         QCOMPARE(page["height"].toInt(), heightOn("800x480"));
         ui.reset();
-        QWindowSystemInterface::handleScreenRemoved(screen); // the engine lives longer than the host
+        screen.reset(); // the engine lives longer than the host
         QCOMPARE(page["family"].toString(), QString("Inter"));
     }
 };
