@@ -7,7 +7,7 @@ namespace QmlHost
 
 Interview::Interview()
 {
-    const auto noteFailure = [this] { isReached = false; };
+    const auto noteFailure = [this] { hasReplies = false; };
     QObject::connect(&resources, &DBusConnectorBase::dBusConnectionError, noteFailure);
     QObject::connect(&iconProvider, &DBusConnectorBase::dBusConnectionError, noteFailure);
 }
@@ -32,9 +32,14 @@ void Interview::run(const std::function<bool()>& isStopRequested)
         [this] { mappingTable = iconProvider.getIconResourcesMappingTable(QString()); },
     };
     for (const auto& question : questions) {
-        if (isReached && !isStopRequested())
+        if (hasReplies && !isStopRequested())
             question();
     }
+}
+
+bool Interview::isReached() const
+{
+    return hasReplies;
 }
 
 Answers Interview::answers(bool includesIconFiles) const
@@ -51,7 +56,7 @@ Answers Interview::answers(bool includesIconFiles) const
 
 QString Interview::problem() const
 {
-    if (!isReached)
+    if (!hasReplies)
         return silence();
     const QPair<bool, QString> parts[] = {
         {colorFile.isEmpty(), QStringLiteral("the color file")},

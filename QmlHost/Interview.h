@@ -25,6 +25,9 @@ public:
     /// Neither are they once `isStopRequested` returns true.
     void run(const std::function<bool()>& isStopRequested);
 
+    /// Whether every call had a reply.
+    bool isReached() const;
+
     /// What has been answered. `includesIconFiles` tells whether changes of the icon files matter.
     Answers answers(bool includesIconFiles) const;
 
@@ -34,7 +37,7 @@ public:
 private:
     const TarnisDeviceUiResourcesDBusConnector resources;
     const TarnisIconProviderDBusConnector iconProvider;
-    bool isReached = true;
+    bool hasReplies = true;
     QString colorFile;
     QString fontFile;
     QList<QPair<QSize, QString>> displaySizes;

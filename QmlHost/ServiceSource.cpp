@@ -108,7 +108,11 @@ void ServiceSource::interview()
         repetition.start(nextInterval);
         nextInterval = qMin(2 * nextInterval, longestInterval);
     }
-    const Answers answers = interview.answers(areFilesFollowed);
+    Answers answers = interview.answers(areFilesFollowed);
+    if (!interview.isReached()) {
+        lastAnswers.renew(areFilesFollowed);
+        answers.complete(lastAnswers);
+    }
     const QString directory = answers.directory();
     if (!directory.isEmpty() && directory != watchedDirectory)
         watch(directory);
@@ -159,8 +163,8 @@ void ServiceSource::watch(const QString& directory)
 
 void ServiceSource::onFilesChanged()
 {
-    renewal.start();
     ask();
+    renewal.start();
 }
 
 void ServiceSource::onOwnerChanged(const QString& /*name*/, const QString& /*oldOwner*/, const QString& newOwner)

@@ -21,8 +21,8 @@ class ServiceSource : public Source
     Q_OBJECT
 
 public:
-    /// With `followsFiles`, it also asks when a file of the resource directory changes. If the service does not answer
-    /// within 100 ms then, the last answers are given again with the new state of their files.
+    /// With `followsFiles`, it also asks when a file of the resource directory changes. If there is no answer within
+    /// 100 ms then, the last answers are given again with the new state of their files.
     explicit ServiceSource(bool followsFiles);
     ~ServiceSource() override;
 
