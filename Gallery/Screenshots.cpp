@@ -28,11 +28,12 @@ void showProgress(int done, int all)
     std::fprintf(stderr, "\r[%s] %d/%d%s", bar.constData(), done, all, done == all ? "\n" : "");
 }
 
-// Whether a picture in the item is loaded on another thread.
+// Whether a part of the item or a picture in it is loaded asynchronously.
 bool isLoading(const QQuickItem& item)
 {
-    constexpr int loading = 2; // Image.Loading
-    if (item.inherits("QQuickImageBase") && item.property("status").toInt() == loading)
+    constexpr int loading = 2; // Image.Loading and Loader.Loading
+    const bool canLoad = item.inherits("QQuickImageBase") || item.inherits("QQuickLoader");
+    if (canLoad && item.property("status").toInt() == loading)
         return true;
     const QList<QQuickItem*> children = item.childItems();
     return std::any_of(children.begin(), children.end(), [](const QQuickItem* child) { return isLoading(*child); });

@@ -38,20 +38,25 @@ Rectangle {
         elide: Text.ElideMiddle
         text: card.alias
     }
-    Grid {
+    // Asynchronous, so that jumps over many icons stay smooth.
+    Loader {
         x: Theme.small
         anchors.top: title.bottom
-        columns: card.columns
-        Repeater {
-            model: card.alias === "" ? [] : IconCatalog.contexts
-            IconContext {
-                width: card.placeWidth
-                height: card.placeHeight
-                alias: card.alias
-                context: modelData
-                pixels: card.pixels
-                backdrops: card.backdrops
-                captionHeight: card.captionHeight
+        active: card.alias !== ""
+        asynchronous: true
+        sourceComponent: Grid {
+            columns: card.columns
+            Repeater {
+                model: IconCatalog.contexts
+                IconContext {
+                    width: card.placeWidth
+                    height: card.placeHeight
+                    alias: card.alias
+                    context: modelData
+                    pixels: card.pixels
+                    backdrops: card.backdrops
+                    captionHeight: card.captionHeight
+                }
             }
         }
     }
