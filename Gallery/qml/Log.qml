@@ -67,6 +67,8 @@ Blocks.Page {
             expression: modelData.text
             leftPadding: Theme.medium
             rightPadding: Theme.medium
+            topPadding: Theme.tiny
+            bottomPadding: Theme.tiny
             contentItem: Row {
                 spacing: Theme.small
                 Blocks.Title {

@@ -12,6 +12,7 @@ Blocks.Entry {
     property int pixels
     property var backdrops
     property int captionHeight
+    property bool isUndrawable: false
     readonly property string effectiveContext: IconCatalog.revision >= 0
         ? IconCatalog.effectiveContext(alias, context) : ""
     readonly property var file: IconCatalog.revision >= 0 ? IconCatalog.file(alias, context) : null
@@ -46,6 +47,7 @@ Blocks.Entry {
                             asynchronous: true
                             fillMode: Image.PreserveAspectFit
                             sourceSize: Qt.size(side, side)
+                            onStatusChanged: entry.isUndrawable = status === Image.Error
                             source: entry.url === "" ? "" : entry.url + "#" + IconCatalog.revision
                         }
                     }
@@ -68,8 +70,8 @@ Blocks.Entry {
                 Blocks.Mark {
                     id: mark
 
-                    color: entry.url === "" ? Theme.error : Theme.textSecondary
-                    text: entry.url === "" ? "missing"
+                    color: entry.url === "" || entry.isUndrawable ? Theme.error : Theme.textSecondary
+                    text: entry.url === "" ? "missing" : entry.isUndrawable ? "cannot be drawn"
                         : entry.effectiveContext === entry.context ? "" : "default stands in"
                 }
             }
