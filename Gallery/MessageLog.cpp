@@ -21,7 +21,7 @@ QString sourceOf(const QMessageLogContext& context)
         return QStringLiteral("library");
     if (qstrncmp(context.file, "Common/", 7) == 0)
         return QStringLiteral("platform");
-    // QML names a file by its URL.
+    // Not the gallery's own pages, which must not log about themselves.
     const bool isFrontEnd =
         qstrncmp(context.file, "file:", 5) == 0 || qstrncmp(context.file, "qrc:/qml/device/", 16) == 0;
     return isFrontEnd ? QStringLiteral("front end") : QString();
