@@ -42,6 +42,12 @@ QVariantMap heading(const Finding& first, const QString& file, int count)
 
 } // namespace
 
+Findings::Findings()
+{
+    connect(this, &Findings::checked, this, &Findings::finish, Qt::QueuedConnection);
+    thread.setMaxThreadCount(1);
+}
+
 void Findings::setEditor(const Editor& fileEditor)
 {
     editor = fileEditor;
@@ -54,10 +60,8 @@ void Findings::setQmlDirectories(const QStringList& directories)
 
 void Findings::start()
 {
-    if (std::exchange(isStarted, true))
-        return;
-    thread.setMaxThreadCount(1);
-    run();
+    if (!std::exchange(isStarted, true))
+        run();
 }
 
 void Findings::check(const QString& resourceDirectory)
@@ -78,8 +82,7 @@ void Findings::run()
         ResourceCheck::Settings settings;
         const QString problem = settings.readFileOf(path);
         const QVector<Finding> found = ResourceCheck::Checker(path, qml, settings).findings();
-        QMetaObject::invokeMethod(
-            this, [this, found, problem] { finish(found, problem); }, Qt::QueuedConnection);
+        Q_EMIT checked(found, problem);
     });
 }
 

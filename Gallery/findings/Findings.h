@@ -26,6 +26,8 @@ class Findings : public QObject
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
 
 public:
+    Findings();
+
     /// The program for open().
     void setEditor(const Editor& fileEditor);
 
@@ -55,6 +57,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// Comes from the thread of the rules. `problem` is what is wrong with the configuration file.
+    void checked(const QVector<ResourceCheck::Finding>& findings, const QString& problem);
 
 private:
     void run();
@@ -76,3 +80,5 @@ private:
 };
 
 } // namespace Gallery
+
+Q_DECLARE_METATYPE(ResourceCheck::Finding)
