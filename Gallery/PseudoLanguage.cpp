@@ -52,7 +52,8 @@ int countLetters(const QVector<TextPart>& parts, int& characters)
         if (part.isFixed)
             continue;
         characters += part.text.size();
-        letters += static_cast<int>(std::count_if(part.text.begin(), part.text.end(), [](QChar c) { return c.isLetter(); }));
+        letters +=
+            static_cast<int>(std::count_if(part.text.begin(), part.text.end(), [](QChar c) { return c.isLetter(); }));
     }
     return letters;
 }

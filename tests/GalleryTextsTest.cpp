@@ -94,7 +94,8 @@ private Q_SLOTS:
     void pageShowsMissingTextsOnlyAndSearchesThem()
     {
         fixture.copyResources();
-        const QString lose = "cd $0/texts && sed -i /Button.Save/d ja.json && sed -i '/Room.Stairs/d; /Home.Title/d' fr.json";
+        const QString lose =
+            "cd $0/texts && sed -i /Button.Save/d ja.json && sed -i '/Room.Stairs/d; /Home.Title/d' fr.json";
         QCOMPARE(run("sh", {"-c", lose, fixture.path()}).exitStatus, 0);
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
         gallery.emplace(TarnisUi::directory(fixture.path()));
@@ -112,7 +113,8 @@ private Q_SLOTS:
             found.removeDuplicates();
             return found.join(' ');
         };
-        QTRY_COMPARE_WITH_TIMEOUT(shownUrls(), QString("text://Button/Save text://Home/Title text://Room/Stairs"), 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(shownUrls(), QString("text://Button/Save text://Home/Title text://Room/Stairs"),
+                                  10000);
         gallery->session.view.setSearch("TREPPE");
         QTRY_COMPARE_WITH_TIMEOUT(shownUrls(), QString("text://Room/Stairs"), 10000);
         gallery->session.view.setSearch("Settings");

@@ -68,7 +68,8 @@ bool FontCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fr
 void FontCatalog::findCoverage()
 {
     worker.clear();
-    const auto find = [this, number = ++requested, names = families, table = texts.table(), languages = texts.languages()] {
+    const auto find = [this, number = ++requested, names = families, table = texts.table(),
+                       languages = texts.languages()] {
         QVariantMap fresh;
         for (const QString& family : names) {
             const QRawFont rawFont = GlyphCoverage::rawFont(family);

@@ -89,10 +89,11 @@ bool TextCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fr
         return false;
     languageNames = fresh.languages;
     worker.clear();
-    worker.start([this, number = ++requested, folder = fresh.textFolder.value, names = languageNames + pseudoLanguages()] {
-        const auto table = std::make_shared<const TextTable>(TextTable::read(folder, names));
-        QMetaObject::invokeMethod(this, [this, number, table] { take(number, table); });
-    });
+    worker.start(
+        [this, number = ++requested, folder = fresh.textFolder.value, names = languageNames + pseudoLanguages()] {
+            const auto table = std::make_shared<const TextTable>(TextTable::read(folder, names));
+            QMetaObject::invokeMethod(this, [this, number, table] { take(number, table); });
+        });
     Q_EMIT languagesChanged();
     return false;
 }
@@ -104,7 +105,7 @@ void TextCatalog::take(int number, const std::shared_ptr<const TextTable>& fresh
     announce();
 }
 
-int TextCatalog::countCells(bool TextCell::* fact) const
+int TextCatalog::countCells(bool TextCell::*fact) const
 {
     int sum = 0;
     for (const TextColumn& column : texts->columns) {

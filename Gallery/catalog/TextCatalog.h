@@ -38,7 +38,7 @@ public:
     Q_INVOKABLE QString label(const QString& language) const;
 
     /// Sorted. `search` is looked up in the texts of all languages, too.
-    Q_INVOKABLE QStringList urls(const QString& search, bool missingOnly) const;
+    Q_INVOKABLE QStringList urls(const QString& search, bool missingOnly = false) const;
 
     /// A list of TextCell, in the order of the languages and then the pseudo languages; empty for an unknown URL.
     Q_INVOKABLE QVariantList cells(const QString& url) const;
@@ -65,7 +65,7 @@ Q_SIGNALS:
 private:
     bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) override;
     void take(int number, const std::shared_ptr<const TextTable>& fresh);
-    int countCells(bool TextCell::* fact) const;
+    int countCells(bool TextCell::*fact) const;
     bool isMissingInAnyLanguage(int index) const;
 
     QStringList languageNames;

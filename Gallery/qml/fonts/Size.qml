@@ -22,7 +22,7 @@ Blocks.Entry {
         Row {
             spacing: Theme.small
             Blocks.Title {
-                text: entry.key
+                text: entry.group + "/" + entry.key
             }
             Blocks.Caption {
                 text: entry.pixels + " px, " + entry.points.toFixed(2) + " pt"
