@@ -18,6 +18,7 @@ FontCatalog::FontCatalog(const TarnisUi& tarnisUi, const TextCatalog& textCatalo
 {
     worker.setMaxThreadCount(1);
     connect(&texts, &Catalog::changed, this, &FontCatalog::findCoverage);
+    connect(this, &FontCatalog::coverageFound, this, &FontCatalog::takeCoverage, Qt::QueuedConnection);
     start();
 }
 
@@ -80,7 +81,7 @@ void FontCatalog::findCoverage()
             }
             fresh.insert(family, list);
         }
-        QMetaObject::invokeMethod(this, [this, number, fresh] { takeCoverage(number, fresh); });
+        Q_EMIT coverageFound(number, fresh);
     };
     worker.start(find);
 }

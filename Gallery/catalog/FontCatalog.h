@@ -46,6 +46,7 @@ public:
 Q_SIGNALS:
     void sampleChanged();
     void coverageChanged();
+    void coverageFound(int number, const QVariantMap& fresh); // from the worker thread
 
 private:
     bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) override;

@@ -13,6 +13,8 @@ TextCatalog::TextCatalog(const TarnisUi& tarnisUi)
     , texts(std::make_shared<TextTable>())
 {
     worker.setMaxThreadCount(1);
+    qRegisterMetaType<std::shared_ptr<const TextTable>>("std::shared_ptr<const TextTable>");
+    connect(this, &TextCatalog::tableRead, this, &TextCatalog::take, Qt::QueuedConnection);
     start();
 }
 
@@ -92,7 +94,7 @@ bool TextCatalog::update(const QmlHost::Answers& old, const QmlHost::Answers& fr
     worker.start(
         [this, number = ++requested, folder = fresh.textFolder.value, names = languageNames + pseudoLanguages()] {
             const auto table = std::make_shared<const TextTable>(TextTable::read(folder, names));
-            QMetaObject::invokeMethod(this, [this, number, table] { take(number, table); });
+            Q_EMIT tableRead(number, table);
         });
     Q_EMIT languagesChanged();
     return false;

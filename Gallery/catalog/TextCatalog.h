@@ -61,6 +61,7 @@ public:
 Q_SIGNALS:
     void languagesChanged();
     void choiceChanged();
+    void tableRead(int number, const std::shared_ptr<const TextTable>& fresh); // from the worker thread
 
 private:
     bool update(const QmlHost::Answers& old, const QmlHost::Answers& fresh) override;
@@ -78,3 +79,5 @@ private:
 };
 
 } // namespace Gallery
+
+Q_DECLARE_METATYPE(std::shared_ptr<const Gallery::TextTable>)
