@@ -29,6 +29,8 @@ Session::Session(std::unique_ptr<QmlHost::Source> source)
     , view(ui)
     , preview(ui, view)
 {
+    // Qt takes a file with the same time for the same file. Exports often give all files the same time.
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
 }
 
 void Session::waitForSource(int milliseconds)

@@ -122,7 +122,8 @@ private Q_SLOTS:
         fixture->copyResources();
         const QString oldDirectory = fixture->path("old");
         QCOMPARE(run("cp", {"-r", RESOURCES, oldDirectory}).exitStatus, 0);
-        GalleryWindow window(TarnisUi::directory(fixture->path()), oldDirectory);
+        GalleryWindow window(TarnisUi::directory(fixture->path()),
+                             [&](Gallery::Session& session) { session.compareWith(oldDirectory); });
         window.session.view.setPage("Compare");
         QTRY_VERIFY_WITH_TIMEOUT(window.text().contains("Nothing has changed."), 10000);
         const auto widen = [](const QString& directory, int width) {

@@ -177,9 +177,12 @@ void LivePreview::followFiles(const FrontEnd& frontEnd)
 {
     if (frontEnd.files() == files)
         return;
-    files = frontEnd.files();
-    watcher.watchFiles(files);
-    fingerprint = QmlHost::Fingerprint::of(withNeighbors(files));
+    const QStringList oldFiles = std::exchange(files, frontEnd.files());
+    watcher.watchFiles(files); // forgets the changes that it has seen, but not reported
+    const bool isOutdated = QmlHost::Fingerprint::of(withNeighbors(oldFiles)) != fingerprint;
+    fingerprint = isOutdated ? QByteArray() : QmlHost::Fingerprint::of(withNeighbors(files));
+    if (isOutdated)
+        QMetaObject::invokeMethod(this, &LivePreview::reloadIfChanged, Qt::QueuedConnection);
 }
 
 void LivePreview::reloadIfChanged()

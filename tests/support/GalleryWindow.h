@@ -7,6 +7,8 @@
 #include <QQuickWindow>
 #include <QtTest>
 
+#include <functional>
+
 namespace Tests
 {
 
@@ -14,12 +16,13 @@ namespace Tests
 class GalleryWindow
 {
 public:
-    /// Does not wait for the source. Compares with the old directory unless its path is empty.
-    explicit GalleryWindow(std::unique_ptr<QmlHost::Source> source, const QString& oldDirectory = QString())
+    /// Does not wait for the source. `prepare` is called before anything is published.
+    explicit GalleryWindow(
+        std::unique_ptr<QmlHost::Source> source,
+        const std::function<void(Gallery::Session&)>& prepare = [](Gallery::Session&) {})
         : session(std::move(source))
     {
-        if (!oldDirectory.isEmpty())
-            session.compareWith(oldDirectory);
+        prepare(session);
         session.publish();
         engine.load(QUrl("qrc:/qml/Main.qml"));
         window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
@@ -28,9 +31,12 @@ public:
         window->requestActivate();
     }
 
+    /// Those of the front end follow those of the window.
     QList<QQuickItem*> items() const
     {
         QList<QQuickItem*> found{window->contentItem()};
+        if (session.preview.frontEnd() != nullptr && session.view.page().startsWith("Device"))
+            found.append(session.preview.frontEnd()->window()->contentItem());
         for (int index = 0; index < found.size(); ++index)
             found += found.at(index)->childItems();
         return found;
