@@ -113,6 +113,7 @@ private Q_SLOTS:
         click({200, 900});
         for (const char key : {'t', 'y', 'p', 'e', 'd'})
             QTest::keyClick(gallery->window, key);
+        QTRY_COMPARE_WITH_TIMEOUT(object("field")->property("text").toString(), QString("typed"), 10000);
         QTest::qWait(200); // by now the gallery has seen the objects that have come since
         frontEnd().root()->findChild<QObject*>("inner")->setProperty("checked", true);
         object("list")->setProperty("contentY", 30);

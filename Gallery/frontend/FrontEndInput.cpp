@@ -13,7 +13,7 @@ namespace Gallery
 namespace
 {
 
-// Qt triggers shortcuts only in the window that has the focus of the window system. One of them closes popups.
+// One of the shortcuts closes popups.
 bool trigger(QKeyEvent& event, QQuickWindow& window)
 {
     QKeyEvent replacement(QEvent::ShortcutOverride, event.key(), event.modifiers(), event.text());
@@ -21,7 +21,6 @@ bool trigger(QKeyEvent& event, QQuickWindow& window)
     QCoreApplication::sendEvent(&window, &replacement);
     if (replacement.isAccepted())
         return false;
-    const QScopedValueRollback<QWindow*> focus(QGuiApplicationPrivate::focus_window, &window);
     return QGuiApplicationPrivate::instance()->shortcutMap.tryShortcut(&event);
 }
 
@@ -30,6 +29,8 @@ bool trigger(QKeyEvent& event, QQuickWindow& window)
 bool FrontEndInput::pass(QEvent& event, QQuickWindow& window, double scale)
 {
     factor = scale;
+    // Qt gives focus to items and triggers shortcuts only in the window that has the focus of the window system.
+    const QScopedValueRollback<QWindow*> focus(QGuiApplicationPrivate::focus_window, &window);
     switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:

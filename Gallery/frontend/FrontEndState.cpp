@@ -72,7 +72,7 @@ QHash<QString, QVariant> readAll(const QObject& object)
     for (int index = first; index < type.propertyCount(); ++index) {
         const QMetaProperty property = type.property(index);
         const QString name = QString::fromLatin1(property.name());
-        const bool isState = property.isWritable() && property.isStored() && !property.isEnumType();
+        const bool isState = property.isWritable() && !property.isEnumType();
         const bool isVariant = property.userType() == QMetaType::QVariant;
         if (!isState || isDerived(object, name) || !(isVariant || isSimple(property.userType())))
             continue;

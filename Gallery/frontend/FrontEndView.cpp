@@ -1,6 +1,5 @@
 #include "Gallery/frontend/FrontEndView.h"
 
-#include <QCoreApplication>
 #include <QPainter>
 #include <QQuickWindow>
 
@@ -74,7 +73,7 @@ void FrontEndView::follow()
     connect(frontEnd, &FrontEnd::sizeChanged, this, &FrontEndView::scheduleDrawing);
     if (hasActiveFocus()) {
         QFocusEvent event(QEvent::FocusIn);
-        QCoreApplication::sendEvent(frontEnd->window(), &event);
+        input.pass(event, *frontEnd->window(), 1);
     }
     draw();
 }

@@ -23,10 +23,7 @@ public:
         paint("blue");
     }
 
-    void write(const QString& name, const QString& content) const
-    {
-        writeFile(path + '/' + name, content.toUtf8());
-    }
+    void write(const QString& name, const QString& content) const { writeFile(path + '/' + name, content.toUtf8()); }
 
     /// Saves the picture in one color.
     void paint(const QString& color) const
