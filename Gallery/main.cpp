@@ -59,6 +59,8 @@ int takePictures(QQuickWindow& window, Session& session, const Options& options)
         return fail(Failure,
                     QStringLiteral("cannot draw or write %1").arg(options.screenshot + options.screenshotDirectory));
     }
+    if (!session.preview.problem().isEmpty())
+        return fail(Failure, session.preview.problem());
     return judgeLookups(session);
 }
 

@@ -26,6 +26,7 @@ Blocks.Page {
         Blocks.Caption {
             height: Theme.controlHeight
             rightPadding: Theme.small
+            visible: text !== ""
             verticalAlignment: Text.AlignVCenter
             text: page.message !== "" ? ""
                 : Preview.size.width + " x " + Preview.size.height + " px, shown at " + page.percent + " %"
@@ -35,6 +36,7 @@ Blocks.Page {
             checkable: true
             checked: true
             text: "Fit"
+            palette.brightText: Theme.window
             ButtonGroup.group: scales
             Accessible.description: "Scales the front end down to fit into the window"
         },
@@ -44,6 +46,7 @@ Blocks.Page {
             height: Theme.controlHeight
             checkable: true
             text: "1:1"
+            palette.brightText: Theme.window
             ButtonGroup.group: scales
             Accessible.description: "Shows each pixel of the front end as one pixel"
         },
