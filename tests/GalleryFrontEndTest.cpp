@@ -106,18 +106,18 @@ private Q_SLOTS:
     {
         QFETCH(QString, file);
         open(file);
-        QVERIFY(gallery->find("Gallery::FrontEndView")->width() < 1500); // scaled down
-        click({200, 700});
-        click({600, 700});
+        QVERIFY(gallery->find("Gallery::FrontEndView")->width() < 1200); // scaled down
+        click({200, 450});
+        click({600, 450});
         QTRY_VERIFY_WITH_TIMEOUT(frontEnd().root()->findChild<QObject*>("inner") != nullptr, 10000);
-        click({200, 900});
+        click({200, 550});
         for (const char key : {'t', 'y', 'p', 'e', 'd'})
             QTest::keyClick(gallery->window, key);
         QTRY_COMPARE_WITH_TIMEOUT(object("field")->property("text").toString(), QString("typed"), 10000);
         QTest::qWait(200); // by now the gallery has seen the objects that have come since
         frontEnd().root()->findChild<QObject*>("inner")->setProperty("checked", true);
         object("list")->setProperty("contentY", 30);
-        click({1000, 700});
+        click({1000, 450});
         QTRY_VERIFY2_WITH_TIMEOUT(isShown("the question") && isShown("clicked 1"), qPrintable(gallery->text()), 10000);
 
         files->shell("sed -i 's/part 1/part 2/' parts/Part.qml");
@@ -139,7 +139,7 @@ private Q_SLOTS:
     void changedSourceWinsOverTheUser()
     {
         open("Window.qml");
-        click({200, 700});
+        click({200, 450});
         QTRY_VERIFY_WITH_TIMEOUT(isShown("clicked 1"), 10000);
         files->shell("sed -i 's/count: 0/count: 7/' Window.qml");
         QTRY_VERIFY2_WITH_TIMEOUT(isShown("clicked 7"), qPrintable(gallery->text()), 10000);

@@ -67,6 +67,8 @@ QVariant read(const QObject& object, const QMetaProperty& property)
 QHash<QString, QVariant> readAll(const QObject& object)
 {
     QHash<QString, QVariant> values;
+    if (object.inherits("QQuickAbstractAnimation"))
+        return values;
     const QMetaObject& type = *object.metaObject();
     const int first = object.isWindowType() ? QQuickWindow::staticMetaObject.propertyCount() : 0;
     for (int index = first; index < type.propertyCount(); ++index) {

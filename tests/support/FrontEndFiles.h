@@ -56,7 +56,7 @@ private:
     Component.onCompleted: console.log("the front end is there")
     Flickable {
         id: list
-        width: 1600; height: 500; contentHeight: 4000
+        width: 1600; height: 380; contentHeight: 4000
         Column {
             Part {}
             Text { text: Script.text }
@@ -65,12 +65,12 @@ private:
             Image { source: "picture.png" }
         }
     }
-    Button { y: 600; width: 400; height: 200; text: "Count"; onClicked: ++root.count }
-    Switch { id: option; x: 400; y: 600; width: 400; height: 200 }
-    TextField { id: field; y: 800; width: 400; height: 200 }
-    Button { x: 800; y: 600; width: 400; height: 200; text: "Ask"; onClicked: question.open() }
+    Button { y: 400; width: 400; height: 100; text: "Count"; onClicked: ++root.count }
+    Switch { id: option; x: 400; y: 400; width: 400; height: 100 }
+    TextField { id: field; y: 500; width: 400; height: 100 }
+    Button { x: 800; y: 400; width: 400; height: 100; text: "Ask"; onClicked: question.open() }
     Popup { id: question; x: 800; y: 0; focus: true; modal: true; Text { text: "the question" } }
-    Loader { active: option.checked; sourceComponent: Switch { objectName: "inner"; x: 400; y: 800 } }
+    Loader { active: option.checked; sourceComponent: Switch { objectName: "inner"; x: 400; y: 500 } }
 }
 )";
     }
