@@ -34,7 +34,7 @@ QString signedNumber(double number)
 
 void sort(QVector<Comparison::Change>& changes)
 {
-    QCollator collator(QLocale(QLocale::English)); // the order does not depend on the user's language
+    QCollator collator{QLocale(QLocale::English)}; // the order does not depend on the user's language
     collator.setNumericMode(true);
     std::stable_sort(changes.begin(), changes.end(),
                      [&](const Comparison::Change& left, const Comparison::Change& right) {

@@ -2,6 +2,7 @@
 
 #include "Gallery/compare/Snapshot.h"
 
+#include <QMetaType>
 #include <QVector>
 
 #include <optional>
@@ -68,3 +69,5 @@ private:
 };
 
 } // namespace Gallery
+
+Q_DECLARE_METATYPE(Gallery::Comparison)

@@ -56,6 +56,8 @@ LiveComparison::LiveComparison(const TarnisUi& shownUi, const QString& oldDirect
     , oldUi(std::make_unique<LastGoodSource>(TarnisUi::directory(oldDirectoryPath)))
 {
     pool.setMaxThreadCount(1);
+    qRegisterMetaType<Comparison>();
+    connect(this, &LiveComparison::compared, this, &LiveComparison::take, Qt::QueuedConnection);
     for (const TarnisUi* ui : {&newUi, static_cast<const TarnisUi*>(&oldUi)}) {
         connect(ui, &TarnisUi::answersChanged, this, &LiveComparison::start);
         connect(ui, &TarnisUi::problemChanged, this, &LiveComparison::start);
@@ -118,8 +120,7 @@ void LiveComparison::start()
     isRunning = true;
     const auto compare = [this, oldAnswers = oldUi.answers(), oldProblem = oldUi.problem(),
                           newAnswers = newUi.answers(), newProblem = newUi.problem()] {
-        const Comparison fresh(Snapshot(oldAnswers, oldProblem), Snapshot(newAnswers, newProblem));
-        QMetaObject::invokeMethod(this, [this, fresh] { take(fresh); });
+        Q_EMIT compared(Comparison(Snapshot(oldAnswers, oldProblem), Snapshot(newAnswers, newProblem)));
     };
     pool.start(compare);
 }

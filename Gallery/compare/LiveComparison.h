@@ -48,6 +48,9 @@ Q_SIGNALS:
     void changed();
     void problemChanged();
 
+    /// Comes from the worker thread.
+    void compared(const Gallery::Comparison& fresh);
+
 private:
     void start();
     void take(const Comparison& fresh);
