@@ -90,8 +90,8 @@ private Q_SLOTS:
         const Outcome outcome = report(fixture->path(), RESOURCES, fixture->path("report.html"));
         QVERIFY2(outcome.exitStatus == row()["exitStatus"].toInt(), outcome.errors);
         QVERIFY2((outcome.output + outcome.errors).contains(row()["output"].toString().toUtf8()), outcome.errors);
-        const Outcome reversed = report(RESOURCES, fixture->path(), fixture->path("report.html"));
-        QCOMPARE(reversed.exitStatus, outcome.exitStatus);
+        const Comparison reversed(comparison.newSide(), comparison.oldSide());
+        QCOMPARE(reversed.changes().size(), comparison.changes().size());
     }
 
     void wrongUseIsNotTakenForAChange_data() { addRows({"arguments", "exitStatus", "message"}); }
@@ -105,7 +105,8 @@ private Q_SLOTS:
 
     void reportShowsTheScreenWhereItDiffers()
     {
-        change("sed -i 's/^height=52/height=90/' dimensions/800x480.ini");
+        change("sed -i 's/^height=52/height=90/' dimensions/800x480.ini; sed -i 's/<svg/<svg id=\"x\"/' "
+               "icons/day/fan.svg");
         const QStringList arguments{fixture->path(), "--compare", RESOURCES, "--report", fixture->path("report.html")};
         QCOMPARE(run(TARNIS_GALLERY, arguments).exitStatus, 1);
         QFile file(fixture->path("report.html"));
@@ -113,7 +114,7 @@ private Q_SLOTS:
         const QByteArray html = file.readAll();
         QCOMPARE(html.count("class=\"screen\""), 2);
         for (const char* const text : {"alt=\"Old front end on 800x480\"", "alt=\"New front end on 800x480\"",
-                                       "The front end looks the same on 1024x600, 1280x800."})
+                                       "The front end looks the same on 1024x600, 1280x800.", "none at this size"})
             QVERIFY2(html.contains(text), text);
     }
 

@@ -21,14 +21,17 @@ private Q_SLOTS:
                   "import QtQuick 2.15\nimport Tarnis 1.0\nRectangle { property string context; color: '#' + "
                   "Qt.md5(Ui.dimensions.uiElementDimensions['Screen/width'] + context + "
                   "Ui.texts.translatedTexts['text://Room/Stairs']).slice(0, 6) }");
+        fixture->copyResources();
+        for (const char* const name : {"dimensions/1280x800.ini", "texts/fr.json", "texts/ja.json"})
+            QVERIFY(QFile::remove(fixture->path(name))); // twelve pictures remain
         const Outcome outcome =
             run(TARNIS_GALLERY,
-                {RESOURCES, "--qml", fixture->path("own.qml"), "--contact-sheet", fixture->path("sheet.png")});
+                {fixture->path(), "--qml", fixture->path("own.qml"), "--contact-sheet", fixture->path("sheet.png")});
         QVERIFY2(outcome.exitStatus == 0, outcome.errors);
         const QImage sheet(fixture->path("sheet.png"));
-        for (const QSize size : {QSize(800, 480), QSize(1024, 600), QSize(1280, 800)}) {
+        for (const QSize size : {QSize(800, 480), QSize(1024, 600)}) {
             for (const QString context : {"defaultContext", "nightMode"}) {
-                for (const QString stairs : {"Stairs", "Treppe", "Stiege", "Escalier", "階段"}) {
+                for (const QString stairs : {"Stairs", "Treppe", "Stiege"}) {
                     const QByteArray seed = (QString::number(size.width()) + context + stairs).toUtf8();
                     const QByteArray hash = QCryptographicHash::hash(seed, QCryptographicHash::Md5).toHex();
                     QCOMPARE(countPixels(sheet, hash.left(6).toUInt(nullptr, 16)), size.width() * size.height());

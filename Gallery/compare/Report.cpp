@@ -16,7 +16,7 @@ constexpr int rowsPerTable = 200; // browsers lay out a table as a whole, but on
 bool hasDifference(const Comparison::Change& change)
 {
     return change.type() == Comparison::Changed
-        && (change.kind == Snapshot::Dimension || change.kind == Snapshot::Font);
+        && (change.kind == Snapshot::Dimension || change.kind == Snapshot::Font || change.kind == Snapshot::Icon);
 }
 
 QString header(const QString& text)
@@ -134,9 +134,12 @@ QString Report::row(const Comparison::Change& change) const
     QString cells = Html::element(QStringLiteral("th"), QStringLiteral(R"( scope="row")"), change.key.name);
     if (!Comparison::variantTitle(change.kind).isEmpty())
         cells += Html::element(QStringLiteral("td"), QString(), change.key.variant);
-    cells += cell(picture.html(change, false)) + cell(picture.html(change, true));
-    if (hasDifference(change))
-        cells += Html::element(QStringLiteral("td"), QStringLiteral(R"( class="number")"), change.difference());
+    const QString sides[] = {picture.html(change, false), picture.html(change, true)};
+    cells += cell(sides[0]) + cell(sides[1]);
+    if (hasDifference(change)) {
+        const QString words = sides[0] == sides[1] ? QStringLiteral("none at this size") : change.difference();
+        cells += Html::element(QStringLiteral("td"), QStringLiteral(R"( class="number")"), words);
+    }
     return QStringLiteral("<tr>%1</tr>\n").arg(cells);
 }
 
