@@ -29,7 +29,7 @@ Blocks.Page {
     }
 
     title: "Compare"
-    subtitle: Comparison.verdict
+    subtitle: "Old and new side by side"
     isEmpty: list.count === 0
     emptyText: Comparison.revision === 0 ? "Comparing the directories." : "Nothing has changed."
     controls: [
@@ -40,9 +40,14 @@ Blocks.Page {
             value: Comparison.kinds.includes(page.chosenKind) ? page.chosenKind : page.all
             onChosen: value => page.chosenKind = value
         },
+        Blocks.Title {
+            height: Theme.controlHeight
+            verticalAlignment: Text.AlignVCenter
+            text: Comparison.verdict
+        },
         Blocks.Caption {
             height: Theme.controlHeight
-            width: Math.max(120, Math.min(implicitWidth, page.width - 136 - 3 * Theme.medium))
+            width: Math.min(implicitWidth, page.width - 2 * Theme.medium)
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideMiddle
             text: "Old: " + Comparison.oldDirectory
