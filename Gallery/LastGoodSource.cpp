@@ -117,7 +117,8 @@ void LastGoodSource::passOn(const Answers& answers, const QString& problem)
     if (!directory.isEmpty())
         faults += faultsOfMissingParts(answers, Directory(directory));
     Q_EMIT answered(copied, join(faults, problem));
-    Q_EMIT filesRead(QFileInfo(answers.colorFile.value).path(), files.copies().path());
+    if (!directory.isEmpty())
+        Q_EMIT filesRead(directory, files.copies().path());
 }
 
 void LastGoodSource::copyDimensions(Answers& answers, QStringList& faults)

@@ -4,6 +4,7 @@
 #include "Gallery/frontend/FrontEndView.h"
 
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QTimer>
 #include <QtQml>
 
@@ -15,6 +16,8 @@ namespace
 
 std::unique_ptr<QmlHost::Source> withCopies(std::unique_ptr<QmlHost::Source> original, Session& session)
 {
+    // Qt takes a file with the same time for the same file. Exports often give all files the same time.
+    qputenv("QML_DISABLE_DISK_CACHE", "1"); // before any thread is started
     auto source = std::make_unique<LastGoodSource>(std::move(original));
     QObject::connect(source.get(), &LastGoodSource::filesRead, &session.log, &MessageLog::showOriginals);
     QObject::connect(source.get(), &LastGoodSource::filesRead, &session.findings, &Findings::check);
@@ -29,8 +32,6 @@ Session::Session(std::unique_ptr<QmlHost::Source> source)
     , view(ui)
     , preview(ui, view)
 {
-    // Qt takes a file with the same time for the same file. Exports often give all files the same time.
-    qputenv("QML_DISABLE_DISK_CACHE", "1");
 }
 
 void Session::waitForSource(int milliseconds)
@@ -64,6 +65,9 @@ void Session::setFrontEnd(const QString& qmlFile)
 {
     view.dropSampleScreens();
     preview.setFile(qmlFile);
+    findings.setQmlDirectories({QFileInfo(qmlFile).path()});
+    QObject::connect(&preview, &LivePreview::frontEndChanged, &findings, &Findings::checkAgain);
+    QObject::connect(&preview, &LivePreview::changed, &findings, &Findings::checkAgain);
 }
 
 void Session::publish()

@@ -73,6 +73,11 @@ void Findings::check(const QString& resourceDirectory)
     run();
 }
 
+void Findings::checkAgain()
+{
+    check(QString(directory));
+}
+
 void Findings::run()
 {
     if (!isStarted || isBusy || directory.isEmpty())

@@ -41,6 +41,9 @@ public:
     /// collected into one. An empty path changes nothing.
     void check(const QString& resourceDirectory);
 
+    /// Applies the rules again, because a QML file may have changed.
+    void checkAgain();
+
     int errors() const;
     int warnings() const;
     int revision() const;
