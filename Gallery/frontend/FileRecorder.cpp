@@ -47,4 +47,21 @@ QStringList FileRecorder::files() const
     return sorted;
 }
 
+QStringList FileRecorder::withNeighbors(const QStringList& files)
+{
+    static const QStringList kinds{QStringLiteral("*.qml"), QStringLiteral("*.js"), QStringLiteral("*.mjs"),
+                                   QStringLiteral("qmldir")};
+    QStringList all = files;
+    QStringList folders;
+    for (const QString& file : files)
+        folders.append(QFileInfo(file).path());
+    folders.removeDuplicates();
+    for (const QString& folder : qAsConst(folders)) {
+        const QStringList names = QDir(folder).entryList(kinds, QDir::Files);
+        for (const QString& name : names)
+            all.append(folder + QLatin1Char('/') + name);
+    }
+    return all;
+}
+
 } // namespace Gallery

@@ -22,6 +22,9 @@ public:
     /// The paths of the files, including missing ones and without those of the modules installed with Qt. Sorted.
     QStringList files() const;
 
+    /// These files and the others in their folders from which QML may take types.
+    static QStringList withNeighbors(const QStringList& files);
+
 private:
     mutable QMutex mutex;
     QSet<QString> paths;

@@ -2,7 +2,6 @@
 
 #include "QmlHost/Fingerprint.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLocale>
@@ -24,24 +23,6 @@ QString screenOf(const QString& page)
 {
     const QString screen = page.mid(QStringLiteral("Device").size()).toLower();
     return screen.isEmpty() ? QStringLiteral("home") : screen;
-}
-
-// The files that may matter, because QML takes types from them, are the others in the same folders.
-QStringList withNeighbors(const QStringList& files)
-{
-    static const QStringList kinds{QStringLiteral("*.qml"), QStringLiteral("*.js"), QStringLiteral("*.mjs"),
-                                   QStringLiteral("qmldir")};
-    QStringList all = files;
-    QStringList folders;
-    for (const QString& file : files)
-        folders.append(QFileInfo(file).path());
-    folders.removeDuplicates();
-    for (const QString& folder : qAsConst(folders)) {
-        const QStringList names = QDir(folder).entryList(kinds, QDir::Files);
-        for (const QString& name : names)
-            all.append(folder + QLatin1Char('/') + name);
-    }
-    return all;
 }
 
 } // namespace
@@ -140,7 +121,7 @@ void LivePreview::reset()
 
 void LivePreview::build(bool keepsState)
 {
-    fingerprint = QmlHost::Fingerprint::of(withNeighbors(files));
+    fingerprint = QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files));
     const QVariantMap properties{{QStringLiteral("context"), view.context()}, {QStringLiteral("screen"), shownScreen}};
     auto fresh = std::make_unique<Version>(url, ui.displaySize(), properties);
     followFiles(fresh->frontEnd);
@@ -179,15 +160,15 @@ void LivePreview::followFiles(const FrontEnd& frontEnd)
         return;
     const QStringList oldFiles = std::exchange(files, frontEnd.files());
     watcher.watchFiles(files); // forgets the changes that it has seen, but not reported
-    const bool isOutdated = QmlHost::Fingerprint::of(withNeighbors(oldFiles)) != fingerprint;
-    fingerprint = isOutdated ? QByteArray() : QmlHost::Fingerprint::of(withNeighbors(files));
+    const bool isOutdated = QmlHost::Fingerprint::of(FileRecorder::withNeighbors(oldFiles)) != fingerprint;
+    fingerprint = isOutdated ? QByteArray() : QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files));
     if (isOutdated)
         QMetaObject::invokeMethod(this, &LivePreview::reloadIfChanged, Qt::QueuedConnection);
 }
 
 void LivePreview::reloadIfChanged()
 {
-    if (QmlHost::Fingerprint::of(withNeighbors(files)) != fingerprint)
+    if (QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files)) != fingerprint)
         build(true);
 }
 
