@@ -10,8 +10,8 @@ namespace Gallery
 {
 
 /// Keeps the log records of the library, of the platform and of the shown front end, the newest first. All log records
-/// are passed on to the previous message handler. The QML singleton `Log` of the module `Tarnis`. Only one may exist at
-/// a time.
+/// are passed on to the previous message handler. The QML singleton `Log` of the module `Tarnis.Gallery`. Only one may
+/// exist at a time.
 class MessageLog : public QObject
 {
     Q_OBJECT

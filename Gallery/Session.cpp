@@ -14,6 +14,9 @@ namespace Gallery
 namespace
 {
 
+// Not `Tarnis`: a component of a user's front end may have one of these names.
+constexpr char module[] = "Tarnis.Gallery";
+
 std::unique_ptr<QmlHost::Source> withCopies(std::unique_ptr<QmlHost::Source> original, Session& session)
 {
     // Qt takes a file with the same time for the same file. Exports often give all files the same time.
@@ -73,18 +76,18 @@ void Session::setFrontEnd(const QString& qmlFile)
 void Session::publish()
 {
     ui.publish();
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "ColorCatalog", &catalogs.colors);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "FontCatalog", &catalogs.fonts);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "DimensionCatalog", &catalogs.dimensions);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "IconCatalog", &catalogs.icons);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "TextCatalog", &catalogs.texts);
+    qmlRegisterSingletonInstance(module, 1, 0, "ColorCatalog", &catalogs.colors);
+    qmlRegisterSingletonInstance(module, 1, 0, "FontCatalog", &catalogs.fonts);
+    qmlRegisterSingletonInstance(module, 1, 0, "DimensionCatalog", &catalogs.dimensions);
+    qmlRegisterSingletonInstance(module, 1, 0, "IconCatalog", &catalogs.icons);
+    qmlRegisterSingletonInstance(module, 1, 0, "TextCatalog", &catalogs.texts);
     if (comparison)
-        qmlRegisterSingletonInstance("Tarnis", 1, 0, "Comparison", &*comparison);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "View", &view);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Log", &log);
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Preview", &preview);
-    qmlRegisterType<FrontEndView>("Tarnis", 1, 0, "FrontEndView");
-    qmlRegisterSingletonInstance("Tarnis", 1, 0, "Findings", &findings);
+        qmlRegisterSingletonInstance(module, 1, 0, "Comparison", &*comparison);
+    qmlRegisterSingletonInstance(module, 1, 0, "View", &view);
+    qmlRegisterSingletonInstance(module, 1, 0, "Log", &log);
+    qmlRegisterSingletonInstance(module, 1, 0, "Preview", &preview);
+    qmlRegisterType<FrontEndView>(module, 1, 0, "FrontEndView");
+    qmlRegisterSingletonInstance(module, 1, 0, "Findings", &findings);
 }
 
 } // namespace Gallery

@@ -14,7 +14,7 @@
 namespace Gallery
 {
 
-/// The QML singletons of the module `Tarnis`. Only one session may exist at a time.
+/// The QML singletons of the module `Tarnis.Gallery`. Only one session may exist at a time.
 struct Session {
     /// Starts to ask the source.
     explicit Session(std::unique_ptr<QmlHost::Source> source);

@@ -11,7 +11,7 @@
 namespace Gallery
 {
 
-/// What the gallery currently shows. The QML singleton `View` of the module `Tarnis`.
+/// What the gallery currently shows. The QML singleton `View` of the module `Tarnis.Gallery`.
 class View : public QObject
 {
     Q_OBJECT

@@ -9,8 +9,8 @@ namespace Gallery
 {
 
 /// The names of the resources of one kind, and facts about their values that the handlers do not tell. The front end of
-/// a device knows its names and needs no such class. QML gets one singleton of the module `Tarnis` for each kind, named
-/// after the class.
+/// a device knows its names and needs no such class. QML gets one singleton of the module `Tarnis.Gallery` for each
+/// kind, named after the class.
 ///
 /// Lists are limited to the entries that contain the text `search`; upper and lower case are equal.
 class Catalog : public QObject

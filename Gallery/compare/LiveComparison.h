@@ -11,7 +11,7 @@ namespace Gallery
 {
 
 /// Compares the shown resources with those of another directory, and again whenever one of them changes. The QML
-/// singleton `Comparison` of the module `Tarnis`. Reads files on a worker thread.
+/// singleton `Comparison` of the module `Tarnis.Gallery`. Reads files on a worker thread.
 class LiveComparison : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ namespace Gallery
 {
 
 /// What the checker says of the resource directory, as its files are now. The QML singleton `Findings` of the module
-/// `Tarnis`. The rules are applied on a thread of their own.
+/// `Tarnis.Gallery`. The rules are applied on a thread of their own.
 class Findings : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace Gallery
 {
 
 /// Shows the front end of the live preview, scaled to the size of the item, and passes mouse, touch screen and keyboard
-/// on to it. The QML type `FrontEndView` of the module `Tarnis`.
+/// on to it. The QML type `FrontEndView` of the module `Tarnis.Gallery`.
 class FrontEndView : public QQuickPaintedItem
 {
     Q_OBJECT

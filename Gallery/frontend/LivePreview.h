@@ -19,7 +19,7 @@ namespace Gallery
 
 /// The front end on the page Device. When one of its files changes, it is loaded again, into a new engine. The new
 /// version takes the place and the state of the old one if it was loaded without an error. The QML singleton `Preview`
-/// of the module `Tarnis`.
+/// of the module `Tarnis.Gallery`.
 class LivePreview : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "blocks" as Blocks
 import "theme"
 

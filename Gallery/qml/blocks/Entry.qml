@@ -1,6 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "../theme"
 
 // An entry of a list or grid. A click copies the QML expression for its value.

@@ -1,6 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "../theme"
 
 // A fault of a file, or the name of the file above its faults. A click opens the file.

@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "../theme"
 
 // The title of the page, its search, and the choices that all pages share.

@@ -1,6 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "../theme"
 
 // The list of pages. The arrow keys and a click change the page.

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "../theme"
 
 // What every page has: a title with units or counts, controls that wrap on a narrow window, and a sentence when there

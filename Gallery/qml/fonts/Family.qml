@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import Tarnis 1.0
+import Tarnis.Gallery 1.0
 import "../blocks" as Blocks
 import "../theme"
 

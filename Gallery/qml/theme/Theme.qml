@@ -1,7 +1,7 @@
 pragma Singleton
 
 import QtQuick 2.15
-import Tarnis 1.0
+import Tarnis.Gallery 1.0
 
 // The look of the gallery itself. Every color of text has a contrast of at least 4.5:1 on `window`, `surface` and
 // `bar`; lengths and font sizes are pixels.
