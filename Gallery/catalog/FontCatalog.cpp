@@ -2,10 +2,8 @@
 
 #include "Gallery/catalog/Entry.h"
 #include "Gallery/catalog/GlyphCoverage.h"
+#include "Gallery/compare/Pictures.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
-
-#include <QFontDatabase>
-#include <QFontInfo>
 
 #include <algorithm>
 
@@ -29,8 +27,7 @@ QVariantList FontCatalog::entries(const QString& search) const
 
 QString FontCatalog::usedFamily(const QString& family) const
 {
-    const bool isInstalled = QFontDatabase().families().contains(family, Qt::CaseInsensitive);
-    return isInstalled ? family : QFontInfo(QFont(family)).family();
+    return Pictures::usedFamily(family);
 }
 
 QVariantMap FontCatalog::coverage() const
