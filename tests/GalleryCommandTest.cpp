@@ -103,6 +103,7 @@ private Q_SLOTS:
         QByteArray colors("[Marks]\n");
         for (QRgb mark = first; mark < end; mark += step)
             colors += QByteArray("KeyN=#N\n").replace("N", QByteArray::number(mark, 16));
+        fixture->copyResources(); // without a banner, all colors fit into the window
         writeFile(fixture->path("colors.ini"), colors);
         fixture->startModule(fixture->path());
         run(TARNIS_GALLERY, {"--page", "Colors", "--screenshot", fixture->path("picture.png")});
