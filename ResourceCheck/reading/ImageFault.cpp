@@ -35,8 +35,9 @@ QString imageFault(const QFileInfo& file)
         return QStringLiteral("is not an image that Qt can read; save it as SVG or PNG");
     if (knownFormats.contains(suffix) && familyOf(suffix) != familyOf(format))
         return QStringLiteral("is a %1 image; rename or convert it").arg(formatName);
-    // The reader parses a whole SVG file to find its size. Drawing it would take long and cannot fail.
-    const bool isDrawable = !reader.size().isEmpty() && (familyOf(format) == "svg" || !reader.read().isNull());
+    // SvgReader reads SVG files: Qt would parse and measure the whole picture to find its size.
+    const bool isDrawable =
+        format == "svg" || (!reader.size().isEmpty() && (format == "svgz" || !reader.read().isNull()));
     return isDrawable ? QString()
                       : QStringLiteral("is a damaged %1 image, or has no size; save it again").arg(formatName);
 }

@@ -1,7 +1,10 @@
 #include "ResourceCheck/reading/Resources.h"
 
+#include "ResourceCheck/svg/SvgReader.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
+
+#include <QSet>
 
 namespace ResourceCheck
 {
@@ -35,6 +38,23 @@ QVector<TextFile> readTexts(const QFileInfoList& files)
     return texts;
 }
 
+// Several icons can be links to the same file.
+QVector<SvgFault> readSvgFiles(const IconDirectory& icons, const QVector<IconPath>& paths)
+{
+    QVector<SvgFault> faults;
+    QSet<QString> seen;
+    for (const IconPath& path : paths) {
+        const QFileInfo file = icons.file(path.path);
+        const QString identity = file.canonicalFilePath();
+        if (file.suffix().compare(QLatin1String("svg"), Qt::CaseInsensitive) != 0 || !icons.contains(path.path)
+            || seen.contains(identity))
+            continue;
+        seen.insert(identity);
+        faults += SvgReader(file.filePath()).faults();
+    }
+    return faults;
+}
+
 } // namespace
 
 Resources::Resources(const QString& path)
@@ -44,6 +64,7 @@ Resources::Resources(const QString& path)
     , dimensions(readDimensions(directory.dimensionFiles()))
     , icons(directory.iconFolder())
     , iconTables(readIconTables(directory.mappingTables()))
+    , svgFaults(readSvgFiles(icons, iconPaths()))
     , texts(readTexts(directory.languageFiles()))
 {
 }

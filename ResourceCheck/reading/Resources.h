@@ -5,6 +5,7 @@
 #include "ResourceCheck/reading/IconTable.h"
 #include "ResourceCheck/reading/IniFile.h"
 #include "ResourceCheck/reading/TextFile.h"
+#include "ResourceCheck/svg/SvgFault.h"
 #include "ResourceFormat/Directory.h"
 
 #include <QVector>
@@ -28,6 +29,7 @@ struct Resources {
     QVector<DimensionFile> dimensions; // sorted by file name
     IconDirectory icons;
     QVector<IconTable> iconTables; // the default table first
+    QVector<SvgFault> svgFaults;   // of the files that the tables list
     QVector<TextFile> texts;       // sorted by file name
 };
 

@@ -8,7 +8,7 @@ namespace ResourceCheck
 const QVector<Rule>& allRules()
 {
     static const QVector<Rule> rules = fileRules() + iniRules() + colorRules() + fontRules() + dimensionRules()
-        + iconTableRules() + iconFileRules() + iconImageRules() + textRules() + translationRules() + qmlRules()
+        + iconTableRules() + iconFileRules() + iconImageRules() + svgRules() + textRules() + translationRules() + qmlRules()
         + unusedRules();
     return rules;
 }

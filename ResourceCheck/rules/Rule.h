@@ -43,6 +43,7 @@ QVector<Rule> dimensionRules();
 QVector<Rule> iconTableRules();
 QVector<Rule> iconFileRules();
 QVector<Rule> iconImageRules();
+QVector<Rule> svgRules();
 QVector<Rule> textRules();
 QVector<Rule> translationRules();
 QVector<Rule> qmlRules();

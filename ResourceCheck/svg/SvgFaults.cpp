@@ -1,0 +1,47 @@
+#include "ResourceCheck/svg/SvgFaults.h"
+
+#include <algorithm>
+
+namespace ResourceCheck
+{
+
+void SvgFaults::add(SvgFault::Kind kind, qint64 offset, const QString& message)
+{
+    list.append({kind, offset, message});
+}
+
+void SvgFaults::addOnce(SvgFault::Kind kind, qint64 offset, const QString& key, const QString& message)
+{
+    const QString identity = QString::number(static_cast<int>(kind)) + key;
+    if (!keys.contains(identity))
+        add(kind, offset, message);
+    keys.insert(identity);
+}
+
+QVector<SvgFault> SvgFaults::located(const QString& path, const QByteArray& content) const
+{
+    QVector<SvgFault> faults = list;
+    if (faults.isEmpty())
+        return faults;
+    std::stable_sort(faults.begin(), faults.end(),
+                     [](const SvgFault& left, const SvgFault& right) { return left.offset < right.offset; });
+    const QString text = QString::fromUtf8(content);
+    int line = 1;
+    int lineBegin = 0;
+    for (SvgFault& fault : faults) {
+        fault.place.path = path;
+        const int end = std::min(static_cast<int>(fault.offset), text.size());
+        if (end == 0)
+            continue;
+        const int begin = std::max(0, text.lastIndexOf(QLatin1Char('<'), end - 1));
+        for (int next = text.indexOf(QLatin1Char('\n'), lineBegin); next >= 0 && next < begin; ++line) {
+            lineBegin = next + 1;
+            next = text.indexOf(QLatin1Char('\n'), lineBegin);
+        }
+        fault.place.line = line;
+        fault.place.column = begin - lineBegin + 1;
+    }
+    return faults;
+}
+
+} // namespace ResourceCheck
