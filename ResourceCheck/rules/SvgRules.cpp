@@ -58,7 +58,7 @@ QVector<Rule> svgRules()
          QStringLiteral("A huge picture needs much memory and time on a device before it is scaled down."),
          faultsOf(Kind::Size),
          QStringLiteral(
-             "Set `width` and `height` to the intended size, at most 4096 pixels. A file has at most 4 MiB.")},
+             "Set `width` and `height` to the intended size, at most 4096 pixels. A file has at most 2 MiB.")},
         {QStringLiteral("svg-external"), Severity::Error,
          QStringLiteral("Other files are not installed with the icon, and Qt does not load most of them."),
          faultsOf(Kind::External),

@@ -28,15 +28,16 @@ QVector<SvgFault> SvgFaults::located(const QString& path, const QByteArray& cont
     const QString text = QString::fromUtf8(content);
     int line = 1;
     int lineBegin = 0;
+    int lineEnd = text.indexOf(QLatin1Char('\n'));
     for (SvgFault& fault : faults) {
         fault.place.path = path;
         const int end = std::min(static_cast<int>(fault.offset), text.size());
         if (end == 0)
             continue;
         const int begin = std::max(0, text.lastIndexOf(QLatin1Char('<'), end - 1));
-        for (int next = text.indexOf(QLatin1Char('\n'), lineBegin); next >= 0 && next < begin; ++line) {
-            lineBegin = next + 1;
-            next = text.indexOf(QLatin1Char('\n'), lineBegin);
+        for (; lineEnd >= 0 && lineEnd < begin; ++line) {
+            lineBegin = lineEnd + 1;
+            lineEnd = text.indexOf(QLatin1Char('\n'), lineBegin);
         }
         fault.place.line = line;
         fault.place.column = begin - lineBegin + 1;

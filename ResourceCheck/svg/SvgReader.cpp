@@ -13,9 +13,23 @@ using Kind = SvgFault::Kind;
 namespace
 {
 
-constexpr qint64 maximumBytes = 4 * 1024 * 1024;
+constexpr qint64 maximumBytes = 2 * 1024 * 1024;
 constexpr int maximumBlanks = 16;  // Qt does not take a file for SVG that begins with more
 constexpr int maximumDepth = 2048; // Qt rejects deeper files
+
+// Qt compares each attribute with all others of the element, which takes minutes for a file full of them.
+bool hasTooManyAttributes(const QByteArray& content)
+{
+    constexpr int maximumAttributes = 2000;
+    int count = 0;
+    for (const char character : content) {
+        count = character == '<' ? 0 : count;
+        count += character == '=' ? 1 : 0;
+        if (count > maximumAttributes)
+            return true;
+    }
+    return false;
+}
 
 QString wrongParent(const QString& name)
 {
@@ -29,10 +43,12 @@ SvgReader::SvgReader(const QString& path)
     QString problem;
     QByteArray content;
     if (QFileInfo(path).size() > maximumBytes)
-        found.add(Kind::Size, 0, QStringLiteral("the file is larger than 4 MiB; simplify the picture"));
+        found.add(Kind::Size, 0, QStringLiteral("the file is larger than 2 MiB; simplify the picture"));
     else
         content = ResourceFormat::RegularFile::readAll(path, problem);
-    if (content.left(maximumBlanks).trimmed().startsWith('<'))
+    if (hasTooManyAttributes(content))
+        found.add(Kind::Size, 0, QStringLiteral("an element has more than 2,000 attributes; simplify the picture"));
+    else if (content.left(maximumBlanks).trimmed().startsWith('<'))
         parse(content);
     faultList = found.located(path, content);
 }

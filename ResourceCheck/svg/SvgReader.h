@@ -12,7 +12,7 @@ namespace ResourceCheck
 
 /// Reads an SVG file as a stream, makes the decisions of Qt Svg 5.15 without drawing anything, and finds what Qt will
 /// not draw as intended. Files that are compressed or not
-/// SVG, and the content of files above 4 MiB, are not read.
+/// SVG, and the content of files above 2 MiB, are not read.
 class SvgReader
 {
 public:
