@@ -14,7 +14,7 @@ Checker::Checker(const QString& resourceDirectory, const QStringList& qmlDirecto
 
 QVector<Finding> Checker::findings(const Progress& progress) const
 {
-    Project project{Resources(directory), {}, how.contrastPairs, how.kept};
+    Project project{Resources(directory), {}, how.contrastPairs, how.kept, how.maximumLengths};
     if (!qml.isEmpty())
         project.qml.emplace(qml, how.handlerNames.isEmpty() ? QmlUses::defaultHandlers() : how.handlerNames);
     QVector<Finding> findings = check(project, how.severities, progress);

@@ -1,6 +1,7 @@
 #include "ResourceCheck/Options.h"
 
 #include "ResourceCheck/Resolve.h"
+#include "ResourceCheck/Suggestions.h"
 #include "ResourceCheck/output/RuleOutput.h"
 #include "ResourceCheck/rules/Rule.h"
 
@@ -20,6 +21,24 @@ QCommandLineOption option(const char* name, const char* description, const char*
     return {QLatin1String(name), QLatin1String(description), QLatin1String(value)};
 }
 
+QList<QCommandLineOption> allOptions()
+{
+    return {
+        option("qml", "Also check the lookups of the QML files below DIR.", "DIR"),
+        option("id", "The name of a handler in QML; replaces the default names.", "NAME=CLASS"),
+        option("keep", "Resources that count as used: a pattern with * and ?.", "PATTERN"),
+        option("contrast", "Also check the contrast of two colors.", "Group/Text:Group/Background"),
+        option("max-length", "Check the length of the texts of a group, such as text://Button=12.", "GROUP=NUMBER"),
+        option("rule", "Set the severity of a rule: off, warning or error.", "NAME=SEVERITY"),
+        option("werror", "Treat warnings as errors."),
+        option("format", "The output format: text (the default), json or sarif.", "FORMAT"),
+        option("summary", "Print only the number of findings of each rule."),
+        option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
+        option("list-records", "Print which rule announces which log record of a device, as a Markdown table."),
+        option("explain", "Print the reason of a rule and how to silence it.", "RULE"),
+    };
+}
+
 void addOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
@@ -28,23 +47,23 @@ void addOptions(QCommandLineParser& parser)
                        "The optional file DIR/.tarnis-check.ini contains options; see tarnis-resource-check(1).\n\n"
                        "Exit status: 0 no errors; 1 errors found, or no answer; 2 wrong usage or unreadable directory.")
             .arg(resolveUsage()));
-    parser.addOptions({
-        option("qml", "Also check the lookups of the QML files below DIR.", "DIR"),
-        option("id", "The name of a handler in QML; replaces the default names.", "NAME=CLASS"),
-        option("keep", "Resources that count as used: a pattern with * and ?.", "PATTERN"),
-        option("contrast", "Also check the contrast of two colors.", "Group/Text:Group/Background"),
-        option("rule", "Set the severity of a rule: off, warning or error.", "NAME=SEVERITY"),
-        option("werror", "Treat warnings as errors."),
-        option("format", "The output format: text (the default), json or sarif.", "FORMAT"),
-        option("summary", "Print only the number of findings of each rule."),
-        option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
-        option("list-records", "Print which rule announces which log record of a device, as a Markdown table."),
-        option("explain", "Print the reason of a rule and how to silence it.", "RULE"),
-    });
+    parser.addOptions(allOptions());
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("The resource directory."),
                                  QStringLiteral("DIR | resolve DIR KIND NAME..."));
+}
+
+QString usageProblem(const QCommandLineParser& parser)
+{
+    const QStringList unknown = parser.unknownOptionNames();
+    QStringList known{QStringLiteral("help"), QStringLiteral("version")};
+    for (const QCommandLineOption& one : allOptions())
+        known += one.names();
+    const QString similar = unknown.isEmpty() ? QString() : Suggestions(known).similarName(unknown.constFirst());
+    const QString advice =
+        similar.isNull() ? QStringLiteral("see --help") : QStringLiteral("did you mean --%1?").arg(similar);
+    return QStringLiteral("%1 %2").arg(parser.errorText(), advice);
 }
 
 QString directoryProblem(const QString& path)
@@ -63,7 +82,7 @@ QString Options::parse(const QStringList& arguments)
     QCommandLineParser parser;
     addOptions(parser);
     if (!parser.parse(arguments))
-        return parser.errorText();
+        return usageProblem(parser);
     QString problem = readInformation(parser);
     if (!problem.isNull() || !information.isEmpty())
         return problem;
@@ -87,7 +106,7 @@ QString Options::readInformation(const QCommandLineParser& parser)
     else if (rule != nullptr)
         information = explanation(*rule);
     else if (parser.isSet(QStringLiteral("explain")))
-        return QStringLiteral("--explain: unknown rule \"%1\"; --list-rules lists all rules").arg(explained);
+        return QStringLiteral("--explain: ") + Settings::unknownRule(explained);
     return QString();
 }
 
@@ -110,8 +129,9 @@ QString Options::readFormat(const QCommandLineParser& parser)
     const QStringList formats{QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif")};
     format = parser.values(QStringLiteral("format")).value(0, formats.constFirst());
     if (!formats.contains(format)) {
-        return QStringLiteral("--format: unknown format \"%1\"; use one of: %2")
-            .arg(format, formats.join(QStringLiteral(", ")));
+        const QString list = QStringLiteral("use one of: ") + formats.join(QStringLiteral(", "));
+        return QStringLiteral("--format: unknown format \"%1\"; %2")
+            .arg(format, Suggestions(formats).advice(format, list));
     }
     if (!parser.isSet(QStringLiteral("summary")))
         return QString();
@@ -138,7 +158,8 @@ QString Options::readSettings(const QCommandLineParser& parser)
     }
     if (parser.isSet(QStringLiteral("id")))
         settings.handlerNames.clear();
-    for (const QString& name : {QStringLiteral("id"), QStringLiteral("keep"), QStringLiteral("contrast")}) {
+    for (const QString& name :
+         {QStringLiteral("id"), QStringLiteral("keep"), QStringLiteral("contrast"), QStringLiteral("max-length")}) {
         for (const QString& value : parser.values(name))
             addProblem(name, settings.setOption(name, value));
     }

@@ -20,6 +20,8 @@ struct Project {
     QVector<QPair<QString, QString>> contrastPairs;
     /// Wildcard patterns of the resources that count as used.
     QStringList kept;
+    /// The groups of texts, such as `text://Button`, and how many characters their texts can have.
+    QVector<QPair<QString, int>> maximumLengths{};
 };
 
 } // namespace ResourceCheck

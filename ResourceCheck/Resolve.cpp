@@ -1,6 +1,8 @@
 #include "ResourceCheck/Resolve.h"
 
 #include "Common/TextTools/TextManager.h"
+#include "ResourceCheck/LookupSuggestion.h"
+#include "ResourceCheck/Suggestions.h"
 #include "ResourceCheck/reading/Resources.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
@@ -157,15 +159,22 @@ QString questionProblem(const QStringList& question)
             return QStringLiteral("\"%1\" is not a display size; use WxH, such as 800x480").arg(question.at(1));
         return QString();
     }
-    return QStringLiteral("cannot resolve \"%1\"; use one of: %2")
-        .arg(question.value(0), known.join(QStringLiteral(", ")));
+    const QString list = QStringLiteral("use one of: ") + known.join(QStringLiteral(", "));
+    return QStringLiteral("cannot resolve \"%1\"; %2")
+        .arg(question.value(0), Suggestions(known).advice(question.value(0), list));
 }
 
 bool resolve(const QString& directory, const QStringList& question)
 {
     for (const Kind& kind : kinds()) {
-        if (kind.name == question.constFirst())
-            return kind.resolve(Resources(directory), question.mid(1));
+        if (kind.name != question.constFirst())
+            continue;
+        const Resources resources(directory);
+        const bool isFound = kind.resolve(resources, question.mid(1));
+        const QString similar = isFound ? QString() : lookupSuggestion(resources, question);
+        if (!similar.isNull())
+            print("did you mean:", similar);
+        return isFound;
     }
     return false;
 }

@@ -1,5 +1,6 @@
 #include "ResourceCheck/Settings.h"
 
+#include "ResourceCheck/Suggestions.h"
 #include "ResourceCheck/qml/QmlUses.h"
 #include "ResourceCheck/reading/IniFile.h"
 #include "ResourceCheck/rules/Rule.h"
@@ -13,14 +14,32 @@ namespace ResourceCheck
 using ResourceFormat::IniEntry;
 using ResourceFormat::IniParser;
 
+namespace
+{
+
+QString advice(const QString& name, const QStringList& known)
+{
+    return Suggestions(known).advice(name, QStringLiteral("use one of: ") + known.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+QString Settings::unknownRule(const QString& name)
+{
+    QStringList names;
+    for (const Rule& rule : allRules())
+        names.append(rule.name);
+    return QStringLiteral("unknown rule \"%1\"; %2")
+        .arg(name, Suggestions(names).advice(name, QStringLiteral("--list-rules lists all rules")));
+}
+
 QString Settings::setRule(const QString& name, const QString& severity)
 {
     if (findRule(name) == nullptr)
-        return QStringLiteral("unknown rule \"%1\"; --list-rules lists all rules").arg(name);
-    if (!severityNames.contains(severity)) {
-        return QStringLiteral("unknown severity \"%1\" of the rule %2; use one of: %3")
-            .arg(severity, name, severityNames.join(QStringLiteral(", ")));
-    }
+        return unknownRule(name);
+    if (!severityNames.contains(severity))
+        return QStringLiteral("unknown severity \"%1\" of the rule %2; %3")
+            .arg(severity, name, advice(severity, severityNames));
     severities.insert(name, static_cast<Severity>(severityNames.indexOf(severity)));
     return QString();
 }
@@ -37,7 +56,10 @@ QString Settings::setOption(const QString& name, const QString& value)
         return addHandlerName(value);
     if (name == QLatin1String("werror"))
         return setWarningsAreErrors(value);
-    return QStringLiteral("unknown key \"%1\"; use one of: werror, keep, contrast, id").arg(name);
+    if (name == QLatin1String("max-length"))
+        return addMaximumLength(value);
+    const QStringList keys = QStringLiteral("werror keep contrast id max-length").split(QLatin1Char(' '));
+    return QStringLiteral("unknown key \"%1\"; %2").arg(name, advice(name, keys));
 }
 
 QString Settings::addContrastPair(const QString& value)
@@ -47,6 +69,17 @@ QString Settings::addContrastPair(const QString& value)
     if (!match.hasMatch())
         return QStringLiteral("\"%1\" is not a pair of colors; use Group/Text:Group/Background").arg(value);
     contrastPairs.append({match.captured(1), match.captured(2)});
+    return QString();
+}
+
+QString Settings::addMaximumLength(const QString& value)
+{
+    bool isNumber = false;
+    const QString group = value.section(QLatin1Char('='), 0, 0);
+    const int length = value.section(QLatin1Char('='), 1).toInt(&isNumber);
+    if (!isNumber || length < 1 || group.isEmpty())
+        return QStringLiteral("\"%1\" is not a length; use GROUP=NUMBER, such as text://Button=12").arg(value);
+    maximumLengths.append({group, length});
     return QString();
 }
 
@@ -75,7 +108,8 @@ QString Settings::setEntry(const IniEntry& entry)
     if (entry.group == QLatin1String("Rules"))
         return setRule(entry.key, entry.value);
     if (entry.group != QLatin1String("Options"))
-        return QStringLiteral("unknown group \"%1\"; use Rules or Options").arg(entry.group);
+        return QStringLiteral("unknown group \"%1\"; %2")
+            .arg(entry.group, advice(entry.group, {QStringLiteral("Rules"), QStringLiteral("Options")}));
     QString problem;
     const QStringList values = entry.value.simplified().split(QLatin1Char(' '));
     for (auto value = values.begin(); value != values.end() && problem.isNull(); ++value)

@@ -26,19 +26,24 @@ struct Settings {
     /// The file is optional.
     QString readFileOf(const QString& directory);
 
+    /// The message for a name that no rule has.
+    static QString unknownRule(const QString& name);
+
     QString setRule(const QString& name, const QString& severity);
 
-    /// Adds or sets one value of `keep`, `contrast`, `id` or `werror`.
+    /// Adds or sets one value of `keep`, `contrast`, `id`, `max-length` or `werror`.
     QString setOption(const QString& name, const QString& value);
 
     QHash<QString, Severity> severities; // by the names of the rules
     QStringList kept;
     QVector<QPair<QString, QString>> contrastPairs;
-    QHash<QString, QString> handlerNames; // classes by their names in QML; empty: the default names
+    QVector<QPair<QString, int>> maximumLengths; // by groups of texts
+    QHash<QString, QString> handlerNames;        // classes by their names in QML; empty: the default names
     bool warningsAreErrors = false;
 
 private:
     QString addContrastPair(const QString& value);
+    QString addMaximumLength(const QString& value);
     QString addHandlerName(const QString& value);
     QString setWarningsAreErrors(const QString& value);
     QString setEntry(const ResourceFormat::IniEntry& entry);

@@ -58,9 +58,10 @@ QStringList actualFindings(const QString& directory)
 {
     const QTemporaryDir copy;
     const QString path = copy.path();
-    QProcess::execute("cp", {"-a", "tests/sound-resources/.", directory + "/.", path});
-    if (QFile::exists(path + "/setup.sh"))
-        QProcess::execute("sh", {"-ec", "cd " + path + " && . ./setup.sh"});
+    const QString prepare = "cp -a tests/sound-resources/. \"$0\"/. \"$1\"; cd \"$1\"; chmod -R a+rX .;"
+                            "[ ! -e setup.sh ] || . ./setup.sh; rm -f setup.sh expected";
+    if (run("sh", {"-ec", prepare, directory, path}).exitStatus != 0)
+        return {"cannot prepare " + directory};
     Settings settings;
     if (const QString problem = settings.readFileOf(path); !problem.isNull())
         return {problem};

@@ -45,6 +45,14 @@ ResourceNames::ResourceNames(const Resources& resources, ResourceKind kind)
     }
 }
 
+QStringList ResourceNames::names() const
+{
+    QStringList names;
+    for (const ResourceName& name : nameList)
+        names.append(name.name);
+    return names;
+}
+
 void ResourceNames::addColors(const IniFile& file)
 {
     complete = file.problem().isNull();

@@ -22,6 +22,9 @@ public:
 
     const QVector<ResourceName>& list() const { return nameList; }
 
+    /// The whole names.
+    QStringList names() const;
+
     /// Whether all files that can define such names could be read.
     bool isComplete() const { return complete; }
 

@@ -1,4 +1,6 @@
 #include "ResourceCheck/Project.h"
+#include "ResourceCheck/Suggestions.h"
+#include "ResourceCheck/reading/ResourceNames.h"
 #include "ResourceCheck/rules/Rule.h"
 #include "ResourceFormat/Contrast.h"
 #include "ResourceFormat/Themes.h"
@@ -56,15 +58,17 @@ void checkContrast(const Project& project, const Report& report)
         if (background != nullptr)
             checkPair(file, text, *background, report);
     }
+    const Suggestions suggestions(ResourceNames(project.resources, ResourceKind::Color).names());
     for (const auto& [textName, backgroundName] : project.contrastPairs) {
         const IniEntry* text = findColor(file, textName);
         const IniEntry* background = findColor(file, backgroundName);
         if (text != nullptr && background != nullptr) {
             checkPair(file, *text, *background, report);
         } else {
+            const QString& missing = text == nullptr ? textName : backgroundName;
             report({file.path()},
-                   QStringLiteral("the color %1 of a contrast option is missing; add it or correct the option")
-                       .arg(text == nullptr ? textName : backgroundName));
+                   QStringLiteral("the color %1 of a contrast option is missing; %2")
+                       .arg(missing, suggestions.advice(missing, QStringLiteral("add it or correct the option"))));
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "ResourceCheck/Project.h"
+#include "ResourceCheck/Suggestions.h"
 #include "ResourceCheck/rules/Rule.h"
 
 #include <QDir>
@@ -37,12 +38,16 @@ QVector<IconPath> pathsWithoutFile(const Project& project)
 void checkExistence(const Project& project, const Report& report)
 {
     const IconDirectory& icons = project.resources.icons;
+    const Suggestions suggestions(icons.files());
     for (const IconPath& path : pathsWithoutFile(project)) {
         if (!icons.pathInAnyCase(path.path).isNull())
             continue; // checkCase() reports it
         const bool exists = icons.file(path.path).exists();
         const QString fault = exists ? QStringLiteral("is not a file") : QStringLiteral("does not exist");
-        report(path.place, QStringLiteral("\"%1\" %2; add the file or correct the path").arg(path.path, fault));
+        report(path.place,
+               QStringLiteral("\"%1\" %2; %3")
+                   .arg(path.path, fault,
+                        suggestions.advice(path.path, QStringLiteral("add the file or correct the path"))));
     }
 }
 

@@ -80,7 +80,7 @@ QVector<Record> qtRecords()
         announced(qt, "QFont::setPointSizeF: Point size <= 0 (…), must be greater than 0",
                   QStringLiteral("font-size-invalid qml-unknown-font")),
         announced(qt, "QML Image: Cannot open: …", QStringLiteral("icon-missing-file icon-outside icon-case")),
-        announced(qt, "QML Image: Error decoding: …", QStringLiteral("icon-unreadable")),
+        announced(qt, "QML Image: Error decoding: …", QStringLiteral("icon-unreadable svg-syntax")),
     };
 }
 

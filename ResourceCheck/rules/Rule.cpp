@@ -7,8 +7,9 @@ namespace ResourceCheck
 
 const QVector<Rule>& allRules()
 {
-    static const QVector<Rule> rules = fileRules() + iniRules() + colorRules() + fontRules() + dimensionRules()
-        + iconTableRules() + iconFileRules() + iconImageRules() + svgRules() + textRules() + translationRules() + qmlRules()
+    static const QVector<Rule> rules = fileRules() + fileTreeRules() + iniRules() + colorRules() + fontRules()
+        + dimensionRules() + dimensionValueRules() + iconTableRules() + iconFileRules() + iconImageRules() + svgRules()
+        + textRules() + textContentRules() + glyphRules() + translationRules() + textComparisonRules() + qmlRules()
         + unusedRules();
     return rules;
 }

@@ -36,16 +36,21 @@ const QVector<Rule>& allRules();
 const Rule* findRule(const QString& name);
 
 QVector<Rule> fileRules();
+QVector<Rule> fileTreeRules();
 QVector<Rule> iniRules();
 QVector<Rule> colorRules();
 QVector<Rule> fontRules();
 QVector<Rule> dimensionRules();
+QVector<Rule> dimensionValueRules();
 QVector<Rule> iconTableRules();
 QVector<Rule> iconFileRules();
 QVector<Rule> iconImageRules();
 QVector<Rule> svgRules();
 QVector<Rule> textRules();
+QVector<Rule> textContentRules();
+QVector<Rule> glyphRules();
 QVector<Rule> translationRules();
+QVector<Rule> textComparisonRules();
 QVector<Rule> qmlRules();
 QVector<Rule> unusedRules();
 

@@ -33,9 +33,9 @@ void checkDuplicates(const TextFile& text, const Report& report)
 void checkEmpty(const TextFile& text, const Report& report)
 {
     for (const JsonValue& member : text.texts) {
-        if (member.text.isEmpty())
+        if (member.text.trimmed().isEmpty())
             report(member.place,
-                   QStringLiteral("the text \"%1\" is empty; enter a text or remove it").arg(member.name));
+                   QStringLiteral("the text \"%1\" is empty or blank; enter a text or remove it").arg(member.name));
     }
 }
 

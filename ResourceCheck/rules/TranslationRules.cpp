@@ -1,11 +1,10 @@
 #include "ResourceCheck/Project.h"
+#include "ResourceCheck/Suggestions.h"
 #include "ResourceCheck/rules/LocaleName.h"
 #include "ResourceCheck/rules/Rule.h"
 #include "ResourceFormat/Language.h"
 
-#include <QHash>
 #include <QLocale>
-#include <QRegularExpression>
 
 #include <optional>
 
@@ -70,55 +69,14 @@ void checkMissing(const Resources& resources, const TextFile& text, const TextFi
 void checkExtra(const Resources& /*resources*/, const TextFile& text, const TextFile& english, const Report& report)
 {
     const QSet<QString> known = english.urls();
+    const Suggestions suggestions({known.begin(), known.end()});
+    const QString advice = QStringLiteral("add it there or remove it here");
     for (const JsonValue& member : text.file.root().members) {
         if (!known.contains(member.name)) {
             report(member.namePlace,
-                   QStringLiteral("the text \"%1\" does not exist in English; add it there or remove it here")
-                       .arg(member.name));
+                   QStringLiteral("the text \"%1\" does not exist in English; %2")
+                       .arg(member.name, suggestions.advice(member.name, advice)));
         }
-    }
-}
-
-QStringList placeholdersOf(const QString& text)
-{
-    static const QRegularExpression pattern(QStringLiteral("%(L?[1-9][0-9]?|n)"));
-    QStringList placeholders;
-    for (auto matches = pattern.globalMatch(text); matches.hasNext();)
-        placeholders.append(matches.next().captured());
-    return placeholders;
-}
-
-void comparePlaceholders(const JsonValue& text, const QString& english, const Report& report)
-{
-    QStringList extra = placeholdersOf(text.text);
-    QStringList missing;
-    for (const QString& placeholder : placeholdersOf(english)) {
-        if (!extra.removeOne(placeholder))
-            missing.append(placeholder);
-    }
-    const QString separator = QStringLiteral(", ");
-    QStringList faults;
-    if (!missing.isEmpty())
-        faults.append(QStringLiteral("lacks ") + missing.join(separator));
-    if (!extra.isEmpty())
-        faults.append(QStringLiteral("has too many of ") + extra.join(separator));
-    if (!faults.isEmpty()) {
-        report(text.place,
-               QStringLiteral("the text \"%1\" %2; use the placeholders of the English text \"%3\"")
-                   .arg(text.name, faults.join(QStringLiteral(" and ")), english.simplified()));
-    }
-}
-
-void checkPlaceholders(const Resources& /*resources*/, const TextFile& text, const TextFile& english,
-                       const Report& report)
-{
-    QHash<QString, QString> expected;
-    for (const JsonValue& member : english.texts) // of duplicates either one can count
-        expected.insert(member.name, expected.contains(member.name) ? QString() : member.text);
-    for (const JsonValue& member : text.texts) {
-        const QString englishText = expected.value(member.name);
-        if (!englishText.isEmpty() && !member.text.isEmpty())
-            comparePlaceholders(member, englishText, report);
     }
 }
 
@@ -133,11 +91,6 @@ QVector<Rule> translationRules()
         {QStringLiteral("text-extra"), Severity::Warning, QStringLiteral("Languages without the text show its URL."),
          forEachTranslation(checkExtra),
          QStringLiteral("Add the text to `en.json`, or remove it from the other files.")},
-        {QStringLiteral("text-placeholder"), Severity::Error,
-         QStringLiteral("The text is shown without a value, or with a placeholder in place of a value."),
-         forEachTranslation(checkPlaceholders),
-         QStringLiteral("Use the placeholders of the English text. Each can occur in any place and more than once, and "
-                        "`%L1` is the same as `%1`.")},
     };
 }
 

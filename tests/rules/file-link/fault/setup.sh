@@ -1,0 +1,1 @@
+ln -s /etc/hostname icons/day/away.svg

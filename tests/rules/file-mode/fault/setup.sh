@@ -1,0 +1,2 @@
+chmod 640 colors.ini
+chmod 750 icons/day
