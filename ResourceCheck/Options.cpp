@@ -2,6 +2,7 @@
 
 #include "ResourceCheck/Resolve.h"
 #include "ResourceCheck/Suggestions.h"
+#include "ResourceCheck/output/ConfigOutput.h"
 #include "ResourceCheck/output/RuleOutput.h"
 #include "ResourceCheck/rules/Rule.h"
 
@@ -31,10 +32,11 @@ QList<QCommandLineOption> allOptions()
         option("max-length", "Check the length of the texts of a group, such as text://Button=12.", "GROUP=NUMBER"),
         option("rule", "Set the severity of a rule: off, warning or error.", "NAME=SEVERITY"),
         option("werror", "Treat warnings as errors."),
-        option("format", "The output format: text (the default), json or sarif.", "FORMAT"),
+        option("format", "The output format: text (the default), json, sarif or gitlab.", "FORMAT"),
         option("summary", "Print only the number of findings of each rule."),
         option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
         option("list-records", "Print which rule announces which log record of a device, as a Markdown table."),
+        option("print-config", "Print the settings of the check as a configuration file."),
         option("explain", "Print the reason of a rule and how to silence it.", "RULE"),
     };
 }
@@ -88,6 +90,8 @@ QString Options::parse(const QStringList& arguments)
         return problem;
     QStringList problems{readPositional(parser.positionalArguments()), readFormat(parser), readSettings(parser)};
     problems.removeAll(QString());
+    if (problems.isEmpty() && parser.isSet(QStringLiteral("print-config")))
+        information = configOutput(settings);
     return problems.value(0);
 }
 
@@ -126,7 +130,8 @@ QString Options::readPositional(const QStringList& arguments)
 
 QString Options::readFormat(const QCommandLineParser& parser)
 {
-    const QStringList formats{QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif")};
+    const QStringList formats{QStringLiteral("text"), QStringLiteral("json"), QStringLiteral("sarif"),
+                              QStringLiteral("gitlab")};
     format = parser.values(QStringLiteral("format")).value(0, formats.constFirst());
     if (!formats.contains(format)) {
         const QString list = QStringLiteral("use one of: ") + formats.join(QStringLiteral(", "));

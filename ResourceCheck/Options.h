@@ -22,7 +22,7 @@ struct Options {
     QString directory;
     QStringList question; // the arguments after `resolve DIR`; otherwise empty
     QStringList qmlDirectories;
-    QString format; // `text`, `summary`, `json` or `sarif`
+    QString format; // `text`, `summary`, `json`, `sarif` or `gitlab`
     Settings settings;
 
 private:

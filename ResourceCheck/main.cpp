@@ -2,6 +2,7 @@
 #include "ResourceCheck/MessageSilencer.h"
 #include "ResourceCheck/Options.h"
 #include "ResourceCheck/Resolve.h"
+#include "ResourceCheck/output/GitlabOutput.h"
 #include "ResourceCheck/output/JsonOutput.h"
 #include "ResourceCheck/output/SarifOutput.h"
 #include "ResourceCheck/output/TextOutput.h"
@@ -54,7 +55,10 @@ QByteArray output(const QVector<Finding>& findings, const QString& format)
         return jsonOutput(findings);
     if (format == QLatin1String("sarif"))
         return sarifOutput(findings);
-    return textOutput(findings, isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR"));
+    if (format == QLatin1String("gitlab"))
+        return gitlabOutput(findings);
+    const bool isTerminal = isatty(STDOUT_FILENO) != 0;
+    return textOutput(findings, isTerminal && qEnvironmentVariableIsEmpty("NO_COLOR"), isTerminal);
 }
 
 ExitStatus runCheck(const Options& options)

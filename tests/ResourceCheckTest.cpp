@@ -10,6 +10,9 @@ class ResourceCheckTest : public QObject
 
 private Q_SLOTS:
     void formatsAgree();
+    void fingerprintsSurviveMovedLines();
+    void printedSettingsGiveTheSameSettings();
+    void terminalShowsThePlace();
     void call_data();
     void call();
 };
@@ -22,11 +25,58 @@ void ResourceCheckTest::formatsAgree()
     const int count = runAs("text").count('\n');
     QVERIFY(count > 3);
     QCOMPARE(QJsonDocument::fromJson(runAs("json")).array().size(), count);
+    QCOMPARE(QJsonDocument::fromJson(runAs("gitlab")).array().size(), count);
     const QByteArray sarif = runAs("sarif");
     QCOMPARE(QJsonDocument::fromJson(sarif)["runs"][0]["results"].toArray().size(), count);
     const QTemporaryDir directory;
     const Outcome validation = run("tests/validate-sarif.py", {writeFile(directory.filePath("a.sarif"), sarif)});
     QVERIFY2(validation.exitStatus == 0, validation.output + validation.errors);
+}
+
+void ResourceCheckTest::fingerprintsSurviveMovedLines()
+{
+    const QTemporaryDir directory;
+    const auto fingerprints = [&directory](const QByteArray& colors) {
+        writeFile(directory.filePath("colors.ini"), colors);
+        const QByteArray report = run(RESOURCE_CHECK, {"--format", "gitlab", directory.path()}).output;
+        QStringList list;
+        for (const QJsonValue finding : QJsonDocument::fromJson(report).array()) {
+            if (finding["check_name"].toString() == "color-invalid")
+                list.append(finding["fingerprint"].toString());
+        }
+        return list;
+    };
+    const QStringList before = fingerprints("[Day]\nText=a\nBack=b\n[Night]\nText=a\n");
+    QCOMPARE(QSet<QString>(before.begin(), before.end()).size(), 3);
+    QCOMPARE(fingerprints("; moved\n\n[Day]\n  Text=a\nBack=b\n[Night]\nText=a\n"), before);
+    QCOMPARE(fingerprints("[Day]\nText=c\nBack=b\n").filter(before.at(1)).size(), 1);
+}
+
+void ResourceCheckTest::printedSettingsGiveTheSameSettings()
+{
+    const QTemporaryDir directory;
+    const QStringList options{"--rule",
+                              "icon-same=error",
+                              "--werror",
+                              "--keep",
+                              "Day/*",
+                              "--max-length",
+                              "text://A=9",
+                              "--contrast",
+                              "Day/A:Day/B",
+                              "--id",
+                              "ui.colors=TarnisColorHandler"};
+    const QByteArray printed = run(RESOURCE_CHECK, options + QStringList{"--print-config", directory.path()}).output;
+    QVERIFY2(printed.contains("\nicon-same=error\n") && printed.contains("\nkeep=Day/*\n"), printed);
+    writeFile(directory.filePath(".tarnis-check.ini"), printed);
+    QCOMPARE(run(RESOURCE_CHECK, {"--print-config", directory.path()}).output, printed);
+}
+
+void ResourceCheckTest::terminalShowsThePlace()
+{
+    const QString command = RESOURCE_CHECK " tests/rules/color-invalid/fault";
+    const QByteArray shown = run("script", {"-qec", command, "/dev/null"}).output;
+    QVERIFY2(shown.contains("\n    Accent=#12345\r\n           ^\r\n"), shown);
 }
 
 void ResourceCheckTest::call_data()

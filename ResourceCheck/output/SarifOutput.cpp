@@ -1,5 +1,6 @@
 #include "ResourceCheck/output/SarifOutput.h"
 
+#include "ResourceCheck/output/SourceLines.h"
 #include "ResourceCheck/rules/Rule.h"
 
 #include <QCoreApplication>
@@ -29,6 +30,8 @@ QJsonObject descriptor(const Rule& rule)
 {
     return {{QStringLiteral("id"), rule.name},
             {QStringLiteral("shortDescription"), object("text", rule.reason)},
+            {QStringLiteral("help"),
+             QJsonObject{{QStringLiteral("text"), rule.remedy}, {QStringLiteral("markdown"), rule.remedy}}},
             {QStringLiteral("defaultConfiguration"), object("level", level(rule.severity))}};
 }
 
@@ -47,12 +50,13 @@ QJsonObject location(const Place& place)
     return object("physicalLocation", physical);
 }
 
-QJsonObject result(const Finding& finding, const QStringList& ruleNames)
+QJsonObject result(const Finding& finding, const QStringList& ruleNames, SourceLines& lines)
 {
     return {{QStringLiteral("ruleId"), finding.rule},
             {QStringLiteral("ruleIndex"), ruleNames.indexOf(finding.rule)},
             {QStringLiteral("level"), level(finding.severity)},
             {QStringLiteral("message"), object("text", finding.message)},
+            {QStringLiteral("partialFingerprints"), object("ruleAndLine/v1", lines.fingerprint(finding))},
             {QStringLiteral("locations"), QJsonArray{location(finding.place)}}};
 }
 
@@ -67,8 +71,9 @@ QByteArray sarifOutput(const QVector<Finding>& findings)
         rules.append(descriptor(rule));
     }
     QJsonArray results;
+    SourceLines lines;
     for (const Finding& finding : findings)
-        results.append(result(finding, names));
+        results.append(result(finding, names, lines));
     const QJsonObject driver{{QStringLiteral("name"), QStringLiteral("tarnis-resource-check")},
                              {QStringLiteral("version"), QCoreApplication::applicationVersion()},
                              {QStringLiteral("rules"), rules}};

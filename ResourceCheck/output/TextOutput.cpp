@@ -1,5 +1,7 @@
 #include "ResourceCheck/output/TextOutput.h"
 
+#include "ResourceCheck/output/SourceLines.h"
+
 #include <QMap>
 #include <QStringList>
 
@@ -22,6 +24,21 @@ QString printable(const QString& text)
     return result;
 }
 
+// The part of the line around the column, and a mark below it.
+QString excerpt(const QString& line, int column)
+{
+    constexpr int before = 60;
+    constexpr int width = 120;
+    const int begin = std::max(0, column - before);
+    const QString part = line.mid(begin, width).trimmed();
+    if (part.isEmpty())
+        return QString();
+    const int blanks = line.indexOf(part, begin);
+    const QString mark =
+        column > 0 ? QStringLiteral("    %1^\n").arg(QString(), std::max(0, column - 1 - blanks)) : QString();
+    return QStringLiteral("    %1\n%2").arg(printable(part), mark);
+}
+
 QString counted(const QVector<Finding>& findings, Severity severity)
 {
     const auto count = std::count_if(findings.begin(), findings.end(),
@@ -32,8 +49,9 @@ QString counted(const QVector<Finding>& findings, Severity severity)
 
 } // namespace
 
-QByteArray textOutput(const QVector<Finding>& findings, bool isColored)
+QByteArray textOutput(const QVector<Finding>& findings, bool isColored, bool hasSource)
 {
+    SourceLines source;
     const auto colored = [isColored](const QString& color, const QString& text) {
         return isColored ? QStringLiteral("\033[%1m\033[K%2\033[m\033[K").arg(color, text) : text;
     };
@@ -47,6 +65,8 @@ QByteArray textOutput(const QVector<Finding>& findings, bool isColored)
         lines.append(QStringLiteral("%1 %2 %3 [%4]\n")
                          .arg(colored(QStringLiteral("01"), place), severity, printable(finding.message),
                               colored(color, finding.rule)));
+        if (hasSource)
+            lines.append(excerpt(source.line(finding.place), finding.place.column));
     }
     return lines.join(QString()).toUtf8();
 }

@@ -8,8 +8,9 @@
 namespace ResourceCheck
 {
 
-/// One line for each finding, in the format of compilers.
-QByteArray textOutput(const QVector<Finding>& findings, bool isColored);
+/// One line for each finding, in the format of compilers. With `hasSource`, the line of the file follows, and a mark
+/// below the place.
+QByteArray textOutput(const QVector<Finding>& findings, bool isColored, bool hasSource);
 
 /// The number of findings of each rule, and the totals.
 QByteArray summaryOutput(const QVector<Finding>& findings);

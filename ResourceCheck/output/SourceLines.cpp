@@ -1,0 +1,33 @@
+#include "ResourceCheck/output/SourceLines.h"
+
+#include "ResourceFormat/RegularFile.h"
+
+#include <QCryptographicHash>
+
+namespace ResourceCheck
+{
+
+QString SourceLines::line(const Place& place)
+{
+    if (place.line < 1)
+        return QString();
+    auto file = files.constFind(place.path);
+    if (file == files.constEnd()) {
+        QString problem;
+        const QByteArray content = ResourceFormat::RegularFile::readAll(place.path, problem);
+        file = files.insert(place.path, QString::fromUtf8(content).split(QLatin1Char('\n')));
+    }
+    return file->value(place.line - 1);
+}
+
+QString SourceLines::fingerprint(const Finding& finding)
+{
+    const QString text = line(finding.place).simplified();
+    // A finding in a whole file is known by its message.
+    const QString content = text.isEmpty() ? finding.message : text;
+    const QString identity = QStringList{finding.rule, finding.place.path, content}.join(QChar(QChar::Null));
+    const QString numbered = identity + QChar(QChar::Null) + QString::number(counts[identity]++);
+    return QString::fromLatin1(QCryptographicHash::hash(numbered.toUtf8(), QCryptographicHash::Sha1).toHex());
+}
+
+} // namespace ResourceCheck
