@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace ResourceCheck
 {
 
@@ -14,6 +16,8 @@ struct Finding {
     Severity severity;
     Place place;
     QString message;
+    QString fingerprint{};            // set by addFingerprints()
+    std::optional<bool> isAccepted{}; // by the baseline, if there is one
 };
 
 } // namespace ResourceCheck

@@ -32,6 +32,8 @@ QList<QCommandLineOption> allOptions()
         option("max-length", "Check the length of the texts of a group, such as text://Button=12.", "GROUP=NUMBER"),
         option("rule", "Set the severity of a rule: off, warning or error.", "NAME=SEVERITY"),
         option("werror", "Treat warnings as errors."),
+        option("baseline", "Accept the findings that FILE lists.", "FILE"),
+        option("update-baseline", "Write all findings to the file of --baseline."),
         option("format", "The output format: text (the default), json, sarif or gitlab.", "FORMAT"),
         option("summary", "Print only the number of findings of each rule."),
         option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
@@ -168,6 +170,10 @@ QString Options::readSettings(const QCommandLineParser& parser)
         for (const QString& value : parser.values(name))
             addProblem(name, settings.setOption(name, value));
     }
+    baseline = parser.value(QStringLiteral("baseline"));
+    updatesBaseline = parser.isSet(QStringLiteral("update-baseline"));
+    if (updatesBaseline && baseline.isEmpty())
+        problems.append(QStringLiteral("--update-baseline: the file is missing; add --baseline FILE"));
     if (parser.isSet(QStringLiteral("werror")))
         settings.warningsAreErrors = true;
     problems.removeAll(QString());

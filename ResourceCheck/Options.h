@@ -22,6 +22,8 @@ struct Options {
     QString directory;
     QStringList question; // the arguments after `resolve DIR`; otherwise empty
     QStringList qmlDirectories;
+    QString baseline; // the file of accepted findings; empty if there is none
+    bool updatesBaseline = false;
     QString format; // `text`, `summary`, `json`, `sarif` or `gitlab`
     Settings settings;
 

@@ -1,3 +1,4 @@
+#include "ResourceCheck/Baseline.h"
 #include "ResourceCheck/Checker.h"
 #include "ResourceCheck/MessageSilencer.h"
 #include "ResourceCheck/Options.h"
@@ -5,6 +6,7 @@
 #include "ResourceCheck/output/GitlabOutput.h"
 #include "ResourceCheck/output/JsonOutput.h"
 #include "ResourceCheck/output/SarifOutput.h"
+#include "ResourceCheck/output/SourceLines.h"
 #include "ResourceCheck/output/TextOutput.h"
 
 #include <QElapsedTimer>
@@ -61,25 +63,57 @@ QByteArray output(const QVector<Finding>& findings, const QString& format)
     return textOutput(findings, isTerminal && qEnvironmentVariableIsEmpty("NO_COLOR"), isTerminal);
 }
 
+ExitStatus fail(const QString& problem)
+{
+    std::fprintf(stderr, "tarnis-resource-check: %s\n", qUtf8Printable(problem));
+    return WrongUsage;
+}
+
+// SARIF marks the accepted findings, the other formats leave them out.
+ExitStatus print(QVector<Finding> findings, const QString& format)
+{
+    const auto isAccepted = [](const Finding& finding) { return finding.isAccepted.value_or(false); };
+    if (format != QLatin1String("sarif"))
+        findings.erase(std::remove_if(findings.begin(), findings.end(), isAccepted), findings.end());
+    std::fputs(output(findings, format).constData(), stdout);
+    std::fflush(stdout);
+    if (format == QLatin1String("text") && !findings.isEmpty())
+        std::fputs(totals(findings).constData(), stderr);
+    const auto isError = [&](const Finding& finding) {
+        return finding.severity == Severity::Error && !isAccepted(finding);
+    };
+    return std::any_of(findings.begin(), findings.end(), isError) ? Failure : Success;
+}
+
 ExitStatus runCheck(const Options& options)
 {
-    const QVector<Finding> findings = findFaults(options);
-    std::fputs(output(findings, options.format).constData(), stdout);
-    std::fflush(stdout);
-    if (options.format == QLatin1String("text") && !findings.isEmpty())
-        std::fputs(totals(findings).constData(), stderr);
-    const auto isError = [](const Finding& finding) { return finding.severity == Severity::Error; };
-    return std::any_of(findings.begin(), findings.end(), isError) ? Failure : Success;
+    Baseline baseline;
+    const bool usesBaseline = !options.baseline.isEmpty() && !options.updatesBaseline;
+    const QString problem = usesBaseline ? baseline.read(options.baseline) : QString();
+    if (!problem.isNull())
+        return fail(problem);
+    QVector<Finding> findings = findFaults(options);
+    addFingerprints(findings);
+    if (options.updatesBaseline) {
+        const QString writeProblem = Baseline::write(options.baseline, findings);
+        return writeProblem.isNull() ? Success : fail(writeProblem);
+    }
+    if (usesBaseline)
+        baseline.accept(findings);
+    const ExitStatus status = print(findings, options.format);
+    for (const QString& line : baseline.repaired()) {
+        std::fprintf(stderr, "%s: a finding is repaired; run --update-baseline to remove \"%s\"\n",
+                     qUtf8Printable(options.baseline), qUtf8Printable(line));
+    }
+    return baseline.repaired().isEmpty() ? status : Failure;
 }
 
 ExitStatus run(const QStringList& arguments)
 {
     Options options;
     const QString problem = options.parse(arguments);
-    if (!problem.isNull()) {
-        std::fprintf(stderr, "tarnis-resource-check: %s\n", qUtf8Printable(problem));
-        return WrongUsage;
-    }
+    if (!problem.isNull())
+        return fail(problem);
     if (!options.information.isEmpty()) {
         std::fputs(options.information.constData(), stdout);
         return Success;

@@ -11,6 +11,7 @@ class ResourceCheckTest : public QObject
 private Q_SLOTS:
     void formatsAgree();
     void fingerprintsSurviveMovedLines();
+    void baselineAcceptsOldFindings();
     void printedSettingsGiveTheSameSettings();
     void terminalShowsThePlace();
     void call_data();
@@ -50,6 +51,33 @@ void ResourceCheckTest::fingerprintsSurviveMovedLines()
     QCOMPARE(QSet<QString>(before.begin(), before.end()).size(), 3);
     QCOMPARE(fingerprints("; moved\n\n[Day]\n  Text=a\nBack=b\n[Night]\nText=a\n"), before);
     QCOMPARE(fingerprints("[Day]\nText=c\nBack=b\n").filter(before.at(1)).size(), 1);
+}
+
+void ResourceCheckTest::baselineAcceptsOldFindings()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(".baseline");
+    const auto check = [&](const QByteArray& colors, const QStringList& options) {
+        writeFile(directory.filePath("colors.ini"), colors);
+        return run(RESOURCE_CHECK, options + QStringList{"--baseline", file, directory.path()});
+    };
+    QCOMPARE(check("[Day]\nText=a\n", {}).exitStatus, 2);
+    QCOMPARE(check("[Day]\nText=a\n", {"--update-baseline"}).exitStatus, 0);
+    const Outcome moved = check("\n[Day]\nText=a\n", {});
+    QCOMPARE(moved.output + moved.errors, QByteArray());
+    QCOMPARE(moved.exitStatus, 0);
+    const Outcome added = check("[Day]\nText=a\nBack=b\n", {});
+    QCOMPARE(added.exitStatus, 1);
+    QCOMPARE(added.output.count('\n'), 1);
+    const QJsonDocument sarif = QJsonDocument::fromJson(check("[Day]\nText=a\nBack=b\n", {"--format", "sarif"}).output);
+    QStringList states;
+    for (const QJsonValue result : sarif["runs"][0]["results"].toArray())
+        states.append(result["baselineState"].toString());
+    QCOMPARE(states.count("new"), 1);
+    QVERIFY(states.count("unchanged") > 1);
+    const Outcome repaired = check("[Day]\nText=#a00\n", {});
+    QCOMPARE(repaired.exitStatus, 1);
+    QVERIFY2(repaired.errors.contains("a finding is repaired"), repaired.errors);
 }
 
 void ResourceCheckTest::printedSettingsGiveTheSameSettings()

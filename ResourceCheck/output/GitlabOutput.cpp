@@ -1,7 +1,5 @@
 #include "ResourceCheck/output/GitlabOutput.h"
 
-#include "ResourceCheck/output/SourceLines.h"
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,7 +11,6 @@ namespace ResourceCheck
 
 QByteArray gitlabOutput(const QVector<Finding>& findings)
 {
-    SourceLines lines;
     QJsonArray array;
     for (const Finding& finding : findings) {
         const bool isError = finding.severity == Severity::Error;
@@ -21,7 +18,7 @@ QByteArray gitlabOutput(const QVector<Finding>& findings)
         array.append(
             QJsonObject{{QStringLiteral("description"), finding.message},
                         {QStringLiteral("check_name"), finding.rule},
-                        {QStringLiteral("fingerprint"), lines.fingerprint(finding)},
+                        {QStringLiteral("fingerprint"), finding.fingerprint},
                         {QStringLiteral("severity"), isError ? QStringLiteral("major") : QStringLiteral("minor")},
                         {QStringLiteral("location"),
                          QJsonObject{{QStringLiteral("path"), finding.place.path}, {QStringLiteral("lines"), begin}}}});

@@ -1,6 +1,5 @@
 #include "ResourceCheck/output/SarifOutput.h"
 
-#include "ResourceCheck/output/SourceLines.h"
 #include "ResourceCheck/rules/Rule.h"
 
 #include <QCoreApplication>
@@ -50,14 +49,19 @@ QJsonObject location(const Place& place)
     return object("physicalLocation", physical);
 }
 
-QJsonObject result(const Finding& finding, const QStringList& ruleNames, SourceLines& lines)
+QJsonObject result(const Finding& finding, const QStringList& ruleNames)
 {
-    return {{QStringLiteral("ruleId"), finding.rule},
-            {QStringLiteral("ruleIndex"), ruleNames.indexOf(finding.rule)},
-            {QStringLiteral("level"), level(finding.severity)},
-            {QStringLiteral("message"), object("text", finding.message)},
-            {QStringLiteral("partialFingerprints"), object("ruleAndLine/v1", lines.fingerprint(finding))},
-            {QStringLiteral("locations"), QJsonArray{location(finding.place)}}};
+    QJsonObject result{{QStringLiteral("ruleId"), finding.rule},
+                       {QStringLiteral("ruleIndex"), ruleNames.indexOf(finding.rule)},
+                       {QStringLiteral("level"), level(finding.severity)},
+                       {QStringLiteral("message"), object("text", finding.message)},
+                       {QStringLiteral("partialFingerprints"), object("ruleAndLine/v1", finding.fingerprint)},
+                       {QStringLiteral("locations"), QJsonArray{location(finding.place)}}};
+    if (finding.isAccepted) {
+        const QLatin1String state(*finding.isAccepted ? "unchanged" : "new");
+        result.insert(QStringLiteral("baselineState"), state);
+    }
+    return result;
 }
 
 } // namespace
@@ -71,9 +75,8 @@ QByteArray sarifOutput(const QVector<Finding>& findings)
         rules.append(descriptor(rule));
     }
     QJsonArray results;
-    SourceLines lines;
     for (const Finding& finding : findings)
-        results.append(result(finding, names, lines));
+        results.append(result(finding, names));
     const QJsonObject driver{{QStringLiteral("name"), QStringLiteral("tarnis-resource-check")},
                              {QStringLiteral("version"), QCoreApplication::applicationVersion()},
                              {QStringLiteral("rules"), rules}};

@@ -8,7 +8,7 @@
 namespace ResourceCheck
 {
 
-/// The findings in the Static Analysis Results Interchange Format, version 2.1.0, with all rules.
+/// All findings, also accepted ones, in the Static Analysis Results Interchange Format, version 2.1.0, with all rules.
 QByteArray sarifOutput(const QVector<Finding>& findings);
 
 } // namespace ResourceCheck

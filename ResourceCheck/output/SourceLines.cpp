@@ -20,14 +20,19 @@ QString SourceLines::line(const Place& place)
     return file->value(place.line - 1);
 }
 
-QString SourceLines::fingerprint(const Finding& finding)
+void addFingerprints(QVector<Finding>& findings)
 {
-    const QString text = line(finding.place).simplified();
-    // A finding in a whole file is known by its message.
-    const QString content = text.isEmpty() ? finding.message : text;
-    const QString identity = QStringList{finding.rule, finding.place.path, content}.join(QChar(QChar::Null));
-    const QString numbered = identity + QChar(QChar::Null) + QString::number(counts[identity]++);
-    return QString::fromLatin1(QCryptographicHash::hash(numbered.toUtf8(), QCryptographicHash::Sha1).toHex());
+    SourceLines lines;
+    QHash<QString, int> counts;
+    for (Finding& finding : findings) {
+        const QString text = lines.line(finding.place).simplified();
+        // A finding in a whole file is known by its message.
+        const QString content = text.isEmpty() ? finding.message : text;
+        const QString identity = QStringList{finding.rule, finding.place.path, content}.join(QChar(QChar::Null));
+        const QString numbered = identity + QChar(QChar::Null) + QString::number(counts[identity]++);
+        const QByteArray hash = QCryptographicHash::hash(numbered.toUtf8(), QCryptographicHash::Sha1);
+        finding.fingerprint = QString::fromLatin1(hash.toHex());
+    }
 }
 
 } // namespace ResourceCheck

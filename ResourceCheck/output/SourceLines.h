@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QStringList>
+#include <QVector>
 
 namespace ResourceCheck
 {
@@ -15,13 +16,12 @@ public:
     /// Null if the finding is about a whole file, or if the line cannot be read.
     QString line(const Place& place);
 
-    /// Identifies the finding by its rule, file and line of text, so that it stays the same if the line moves. Findings
-    /// with the same identity are numbered: call this once for each of them, in their order.
-    QString fingerprint(const Finding& finding);
-
 private:
     QHash<QString, QStringList> files; // lines by paths
-    QHash<QString, int> counts;        // of the findings with the same identity
 };
+
+/// Identifies each finding by its rule, file and line of text, so that it stays the same if the line moves. Findings in
+/// equal lines are numbered.
+void addFingerprints(QVector<Finding>& findings);
 
 } // namespace ResourceCheck

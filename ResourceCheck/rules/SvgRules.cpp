@@ -17,11 +17,11 @@ Rule::Check faultsOf(SvgFault::Kind kind)
     };
 }
 
-} // namespace
+using Kind = SvgFault::Kind;
 
-QVector<Rule> svgRules()
+// What Qt leaves out with a message in its log.
+QVector<Rule> loggedRules()
 {
-    using Kind = SvgFault::Kind;
     return {
         {QStringLiteral("svg-syntax"), Severity::Error,
          QStringLiteral("Qt cannot read the file, and no icon is shown."), faultsOf(Kind::Syntax),
@@ -54,6 +54,13 @@ QVector<Rule> svgRules()
         {QStringLiteral("svg-image"), Severity::Error, QStringLiteral("Qt leaves out an image that it cannot read."),
          faultsOf(Kind::Image),
          QStringLiteral("Embed the image as PNG in base64, with a width and a height, or draw it with shapes.")},
+    };
+}
+
+// What Qt draws in another way without a message.
+QVector<Rule> silentRules()
+{
+    return {
         {QStringLiteral("svg-size"), Severity::Error,
          QStringLiteral("A huge picture needs much memory and time on a device before it is scaled down."),
          faultsOf(Kind::Size),
@@ -76,6 +83,13 @@ QVector<Rule> svgRules()
         {QStringLiteral("svg-empty"), Severity::Warning, QStringLiteral("The icon is invisible."),
          faultsOf(Kind::Empty), QStringLiteral("Draw something. Shapes in `<defs>` are not drawn by themselves.")},
     };
+}
+
+} // namespace
+
+QVector<Rule> svgRules()
+{
+    return loggedRules() + silentRules();
 }
 
 } // namespace ResourceCheck

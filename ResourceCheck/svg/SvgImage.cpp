@@ -20,7 +20,7 @@ QString SvgImage::fault(const QString& url)
     QImageReader reader(&buffer);
     if (reader.format().startsWith("svg"))
         return QStringLiteral("the embedded image is an SVG file, which is not checked; insert its elements directly");
-    constexpr qint64 maximumPixels = 4096 * 4096;
+    constexpr qint64 maximumPixels = qint64{4096} * 4096;
     const QSize size = reader.size();
     if (qint64(size.width()) * size.height() > maximumPixels)
         return QStringLiteral("the embedded image is larger than 4096 x 4096 pixels; scale it down");

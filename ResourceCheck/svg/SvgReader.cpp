@@ -13,7 +13,7 @@ using Kind = SvgFault::Kind;
 namespace
 {
 
-constexpr qint64 maximumBytes = 2 * 1024 * 1024;
+constexpr qint64 maximumBytes = qint64{2} * 1024 * 1024;
 constexpr int maximumBlanks = 16;  // Qt does not take a file for SVG that begins with more
 constexpr int maximumDepth = 2048; // Qt rejects deeper files
 
