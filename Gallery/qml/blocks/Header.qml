@@ -28,6 +28,7 @@ Rectangle {
         Column {
             Layout.fillWidth: true
             Layout.minimumWidth: 90
+            Layout.preferredWidth: 160
             Text {
                 width: parent.width
                 elide: Text.ElideRight
@@ -48,7 +49,8 @@ Rectangle {
             id: search
 
             Layout.fillWidth: true
-            Layout.minimumWidth: 100
+            Layout.minimumWidth: 90
+            Layout.preferredWidth: 140
             Layout.maximumWidth: 320
             implicitHeight: Theme.controlHeight
             visible: header.page !== null && header.page.isSearchable
