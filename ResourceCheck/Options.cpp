@@ -34,6 +34,8 @@ QList<QCommandLineOption> allOptions()
         option("werror", "Treat warnings as errors."),
         option("baseline", "Accept the findings that FILE lists.", "FILE"),
         option("update-baseline", "Write all findings to the file of --baseline."),
+        option("fix", "Repair what has one safe repair before the check."),
+        option("dry-run", "With --fix: only print the changes as a diff."),
         option("format", "The output format: text (the default), json, sarif or gitlab.", "FORMAT"),
         option("summary", "Print only the number of findings of each rule."),
         option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
@@ -174,6 +176,10 @@ QString Options::readSettings(const QCommandLineParser& parser)
     updatesBaseline = parser.isSet(QStringLiteral("update-baseline"));
     if (updatesBaseline && baseline.isEmpty())
         problems.append(QStringLiteral("--update-baseline: the file is missing; add --baseline FILE"));
+    fixes = parser.isSet(QStringLiteral("fix"));
+    isDryRun = parser.isSet(QStringLiteral("dry-run"));
+    if (isDryRun && !fixes)
+        problems.append(QStringLiteral("--dry-run: there is nothing to show; add --fix"));
     if (parser.isSet(QStringLiteral("werror")))
         settings.warningsAreErrors = true;
     problems.removeAll(QString());

@@ -24,7 +24,9 @@ struct Options {
     QStringList qmlDirectories;
     QString baseline; // the file of accepted findings; empty if there is none
     bool updatesBaseline = false;
-    QString format; // `text`, `summary`, `json`, `sarif` or `gitlab`
+    bool fixes = false;
+    bool isDryRun = false; // only shows what `fixes` would change
+    QString format;        // `text`, `summary`, `json`, `sarif` or `gitlab`
     Settings settings;
 
 private:

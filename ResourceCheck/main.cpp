@@ -3,11 +3,13 @@
 #include "ResourceCheck/MessageSilencer.h"
 #include "ResourceCheck/Options.h"
 #include "ResourceCheck/Resolve.h"
+#include "ResourceCheck/fix/Patches.h"
 #include "ResourceCheck/output/GitlabOutput.h"
 #include "ResourceCheck/output/JsonOutput.h"
 #include "ResourceCheck/output/SarifOutput.h"
 #include "ResourceCheck/output/SourceLines.h"
 #include "ResourceCheck/output/TextOutput.h"
+#include "ResourceCheck/reading/Resources.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -85,6 +87,19 @@ ExitStatus print(QVector<Finding> findings, const QString& format)
     return std::any_of(findings.begin(), findings.end(), isError) ? Failure : Success;
 }
 
+// Returns whether all files with repairs could be written, or shown.
+ExitStatus fix(const Options& options)
+{
+    for (const Patch& patch : Patches::of(findFaults(options), Resources(options.directory))) {
+        const QString problem = options.isDryRun ? QString() : patch.apply();
+        if (!problem.isNull())
+            return fail(problem);
+        if (options.isDryRun)
+            std::fputs(patch.diff().constData(), stdout);
+    }
+    return Success;
+}
+
 ExitStatus runCheck(const Options& options)
 {
     Baseline baseline;
@@ -118,9 +133,10 @@ ExitStatus run(const QStringList& arguments)
         std::fputs(options.information.constData(), stdout);
         return Success;
     }
-    if (options.question.isEmpty())
-        return runCheck(options);
-    return resolve(options.directory, options.question) ? Success : Failure;
+    if (!options.question.isEmpty())
+        return resolve(options.directory, options.question) ? Success : Failure;
+    const ExitStatus fixed = options.fixes ? fix(options) : Success;
+    return options.isDryRun || fixed != Success ? fixed : runCheck(options);
 }
 
 } // namespace

@@ -11,6 +11,7 @@ class ResourceCheckTest : public QObject
 private Q_SLOTS:
     void formatsAgree();
     void fingerprintsSurviveMovedLines();
+    void fixChangesNothingElse();
     void baselineAcceptsOldFindings();
     void printedSettingsGiveTheSameSettings();
     void terminalShowsThePlace();
@@ -51,6 +52,36 @@ void ResourceCheckTest::fingerprintsSurviveMovedLines()
     QCOMPARE(QSet<QString>(before.begin(), before.end()).size(), 3);
     QCOMPARE(fingerprints("; moved\n\n[Day]\n  Text=a\nBack=b\n[Night]\nText=a\n"), before);
     QCOMPARE(fingerprints("[Day]\nText=c\nBack=b\n").filter(before.at(1)).size(), 1);
+}
+
+void ResourceCheckTest::fixChangesNothingElse()
+{
+    const QTemporaryDir directory;
+    const QString texts =
+        writeFile(directory.filePath("texts/en.json"),
+                  "{ \"a\": \" x\\n\",\r\n\t\"b\": \"y\\\\n\", \"c\":\"z\\u00a0\",\"c\" : \"z \" }\r\n");
+    const QString table = writeFile(directory.filePath("icons/mapping.json"),
+                                    "{\"a\": {\"defaultContext\": \"day/Home.svg\", \"night\": \"x\"}}");
+    const QString colors = writeFile(directory.filePath("colors.ini"), "A=red\nA=red\nA=blue\nA=blue\n\nA = blue");
+    writeFile(directory.filePath("icons/day/home.svg"), "<svg width='1' height='1'><rect/></svg>");
+    QVERIFY(QFile::setPermissions(texts, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+    const auto content = [](const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray before = content(texts) + content(table) + content(colors);
+    const QByteArray diff = run(RESOURCE_CHECK, {"--fix", "--dry-run", directory.path()}).output;
+    QCOMPARE(content(texts) + content(table) + content(colors), before);
+    const QString patch = writeFile(directory.filePath(".diff"), diff);
+    const QByteArray fixed = "{ \"a\": \"x\",\r\n\t\"b\": \"y\\\\n\", \"c\":\"z\",\"c\" : \"z\" }\r\n"
+                             "{\"a\": {\"defaultContext\": \"day/home.svg\", \"night\": \"x\"}}"
+                             "A=red\nA=blue\n\n";
+    run(RESOURCE_CHECK, {"--fix", directory.path()});
+    QCOMPARE(content(texts) + content(table) + content(colors), fixed);
+    QCOMPARE(QFile::permissions(texts) & QFile::ReadGroup, QFile::Permissions());
+    QVERIFY(QFile::permissions(texts) & QFile::ReadOther);
+    QVERIFY2(diff.contains("-A=red\n") && diff.contains("day/home.svg") && diff.contains("+{ \"a\": \"x\",\r\n"), diff);
+    QCOMPARE(run(RESOURCE_CHECK, {"--fix", "--dry-run", directory.path()}).output, QByteArray());
 }
 
 void ResourceCheckTest::baselineAcceptsOldFindings()
