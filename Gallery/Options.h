@@ -33,7 +33,7 @@ struct Options {
     QString display;
     QString page;
     QString theme;
-    QString editor; ///< Empty for the program of the desktop.
+    QString editor;   ///< Empty for the program of the desktop.
     QSize windowSize; ///< Invalid if it is not given.
     QString screenshot;
     QString screenshotDirectory;

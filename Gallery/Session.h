@@ -3,8 +3,8 @@
 #include "Gallery/MessageLog.h"
 #include "Gallery/View.h"
 #include "Gallery/catalog/Catalogs.h"
-#include "Gallery/findings/Findings.h"
 #include "Gallery/compare/LiveComparison.h"
+#include "Gallery/findings/Findings.h"
 #include "Gallery/frontend/LivePreview.h"
 #include "QmlHost/TarnisUi.h"
 

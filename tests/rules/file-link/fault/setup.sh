@@ -1,1 +1,2 @@
+# shellcheck shell=sh
 ln -s /etc/hostname icons/day/away.svg

@@ -1,3 +1,4 @@
+# shellcheck shell=sh
 chmod 604 colors.ini
 chmod 705 icons/day
 touch .hidden

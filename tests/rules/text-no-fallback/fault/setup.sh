@@ -1,1 +1,2 @@
+# shellcheck shell=sh
 rm texts/en.json
