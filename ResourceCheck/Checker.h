@@ -2,6 +2,7 @@
 
 #include "ResourceCheck/Check.h"
 #include "ResourceCheck/Settings.h"
+#include "ResourceCheck/qml/QmlNames.h"
 
 namespace ResourceCheck
 {
@@ -17,8 +18,10 @@ public:
     explicit Checker(const QString& resourceDirectory, const QStringList& qmlDirectories = {},
                      const Settings& settings = {});
 
-    /// Reads everything again and returns the findings, sorted by place, with the severities of the settings.
-    QVector<Finding> findings(const Progress& progress = [](int /*done*/, int /*all*/) {}) const;
+    /// Reads everything again and returns the findings, sorted by place, with the severities of the settings. `names`,
+    /// if it is not null, receives the names in QML that depend on values at run time.
+    QVector<Finding> findings(
+        const Progress& progress = [](int /*done*/, int /*all*/) {}, QmlNames* names = nullptr) const;
 
 private:
     QString directory;

@@ -31,6 +31,7 @@ QList<QCommandLineOption> allOptions()
         option("contrast", "Also check the contrast of two colors.", "Group/Text:Group/Background"),
         option("max-length", "Check the length of the texts of a group, such as text://Button=12.", "GROUP=NUMBER"),
         option("rule", "Set the severity of a rule: off, warning or error.", "NAME=SEVERITY"),
+        option("show-unresolved", "List the names in QML that depend on values at run time."),
         option("werror", "Treat warnings as errors."),
         option("baseline", "Accept the findings that FILE lists.", "FILE"),
         option("update-baseline", "Write all findings to the file of --baseline."),
@@ -180,6 +181,7 @@ QString Options::readSettings(const QCommandLineParser& parser)
     isDryRun = parser.isSet(QStringLiteral("dry-run"));
     if (isDryRun && !fixes)
         problems.append(QStringLiteral("--dry-run: there is nothing to show; add --fix"));
+    showsUnresolved = parser.isSet(QStringLiteral("show-unresolved"));
     if (parser.isSet(QStringLiteral("werror")))
         settings.warningsAreErrors = true;
     problems.removeAll(QString());

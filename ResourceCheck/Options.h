@@ -27,6 +27,7 @@ struct Options {
     bool fixes = false;
     bool isDryRun = false; // only shows what `fixes` would change
     QString format;        // `text`, `summary`, `json`, `sarif` or `gitlab`
+    bool showsUnresolved = false; // list the names in QML that depend on values at run time
     Settings settings;
 
 private:

@@ -40,15 +40,16 @@ std::unique_ptr<QGuiApplication> createApplication(char* argv[])
     return application;
 }
 
-QVector<Finding> findFaults(const Options& options)
+QVector<Finding> findFaults(const Options& options, QmlNames* names = nullptr)
 {
     QElapsedTimer timer;
     timer.start();
-    return Checker(options.directory, options.qmlDirectories, options.settings).findings([&timer](int done, int all) {
+    const Progress progress = [&timer](int done, int all) {
         constexpr int patience = 1000; // milliseconds
         if (isatty(STDERR_FILENO) != 0 && timer.hasExpired(patience))
             std::fprintf(stderr, "\rchecking: %d %%%s", 100 * done / all, done < all ? "" : "\r\033[K");
-    });
+    };
+    return Checker(options.directory, options.qmlDirectories, options.settings).findings(progress, names);
 }
 
 QByteArray output(const QVector<Finding>& findings, const QString& format)
@@ -107,7 +108,8 @@ ExitStatus runCheck(const Options& options)
     const QString problem = usesBaseline ? baseline.read(options.baseline) : QString();
     if (!problem.isNull())
         return fail(problem);
-    QVector<Finding> findings = findFaults(options);
+    QmlNames names;
+    QVector<Finding> findings = findFaults(options, &names);
     addFingerprints(findings);
     if (options.updatesBaseline) {
         const QString writeProblem = Baseline::write(options.baseline, findings);
@@ -116,6 +118,7 @@ ExitStatus runCheck(const Options& options)
     if (usesBaseline)
         baseline.accept(findings);
     const ExitStatus status = print(findings, options.format);
+    std::fputs(undeterminableOutput(names, options.showsUnresolved).constData(), stderr);
     for (const QString& line : baseline.repaired()) {
         std::fprintf(stderr, "%s: a finding is repaired; run --update-baseline to remove \"%s\"\n",
                      qUtf8Printable(options.baseline), qUtf8Printable(line));

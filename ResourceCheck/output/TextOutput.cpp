@@ -2,6 +2,7 @@
 
 #include "ResourceCheck/output/SourceLines.h"
 
+#include <QLocale>
 #include <QMap>
 #include <QStringList>
 
@@ -82,6 +83,27 @@ QByteArray summaryOutput(const QVector<Finding>& findings)
     for (auto count = counts.begin(); count != counts.end(); ++count)
         table += QStringLiteral("%1%2\n").arg(count.key(), -nameWidth).arg(count.value(), numberWidth).toUtf8();
     return table + totals(findings);
+}
+
+QByteArray undeterminableOutput(const QmlNames& names, bool isListed)
+{
+    QStringList lines;
+    for (const QmlFault& name : names.undeterminable) {
+        const QString path = printable(name.place.path);
+        if (isListed)
+            lines.append(QStringLiteral("%1:%2:%3: %4\n")
+                             .arg(path)
+                             .arg(name.place.line)
+                             .arg(name.place.column)
+                             .arg(name.message));
+    }
+    const QLocale locale(QLocale::English);
+    if (!names.undeterminable.isEmpty()) {
+        lines.append(QStringLiteral("%1 of %2 names depend on run-time values%3\n")
+                         .arg(locale.toString(names.undeterminable.size()), locale.toString(names.count),
+                              isListed ? QString() : QStringLiteral("; --show-unresolved lists them")));
+    }
+    return lines.join(QString()).toUtf8();
 }
 
 QByteArray totals(const QVector<Finding>& findings)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ResourceCheck/Finding.h"
+#include "ResourceCheck/qml/QmlNames.h"
 
 #include <QByteArray>
 #include <QVector>
@@ -14,6 +15,10 @@ QByteArray textOutput(const QVector<Finding>& findings, bool isColored, bool has
 
 /// The number of findings of each rule, and the totals.
 QByteArray summaryOutput(const QVector<Finding>& findings);
+
+/// How many names in QML depend on values at run time, after a line for each of them if they are listed. Empty if none
+/// does.
+QByteArray undeterminableOutput(const QmlNames& names, bool isListed);
 
 /// One line: "3 errors, 1 warning".
 QByteArray totals(const QVector<Finding>& findings);

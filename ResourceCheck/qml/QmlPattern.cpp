@@ -31,7 +31,7 @@ bool QmlPattern::matches(const QString& text) const
 
 QmlPattern operator+(const QmlPattern& left, const QmlPattern& right)
 {
-    QmlPattern sum{left.pieces, left.hasText() ? left.place : right.place};
+    QmlPattern sum{left.pieces, left.hasText() ? left.place : right.place, left.isUncertain || right.isUncertain};
     sum.pieces.last() += right.pieces.first();
     const bool isGap = sum.pieces.last().isEmpty() && !left.isLiteral() && !right.isLiteral();
     if (isGap)

@@ -9,11 +9,13 @@ namespace ResourceCheck
 
 /// A text of which QML gives the literal pieces, with any text between them.
 struct QmlPattern {
-    static QmlPattern literal(const QString& text, const Place& place = {}) { return {{text}, place}; }
-    static QmlPattern anything(const Place& place = {}) { return {{QString(), QString()}, place}; }
+    static QmlPattern literal(const QString& text, const Place& place = {}) { return {{text}, place, false}; }
+    static QmlPattern anything(const Place& place = {}) { return {{QString(), QString()}, place, false}; }
 
     QStringList pieces; // a single piece is the whole text
     Place place;        // of the first literal piece if there is one
+    /// Whether the pieces may never meet, because several texts on each side of a `+` may depend on each other.
+    bool isUncertain = false;
 
     bool isLiteral() const { return pieces.size() == 1; }
     bool hasText() const;

@@ -2,8 +2,9 @@
 #include "ResourceCheck/qml/KnownNames.h"
 #include "ResourceCheck/reading/ResourceNames.h"
 #include "ResourceCheck/rules/Rule.h"
+#include "ResourceCheck/rules/UseCheck.h"
 
-#include <algorithm>
+#include <QSet>
 
 namespace ResourceCheck
 {
@@ -19,40 +20,12 @@ void checkSyntax(const Project& project, const Report& report)
         report(fault.place, fault.message);
 }
 
-QString messageFor(const QmlUse& use, const QmlPattern& name, const KnownNames& names)
+void checkCalls(const Project& project, const Report& report)
 {
-    const QString nearest = names.nearest(name);
-    const QString advice = nearest.isNull() ? QStringLiteral("add it or correct the name")
-                                            : QStringLiteral("did you mean \"%1\"?").arg(nearest);
-    return QStringLiteral("unknown %1 \"%2\"; %3").arg(kindName(use.kind), name.text(), advice);
-}
-
-// Checks groups and keys separately: not every group has to have every key.
-void checkUse(const QmlUse& use, const KnownNames& names, const Report& report)
-{
-    const auto exists = [&](const QmlPattern& group, const QmlPattern& key) {
-        return (!group.hasText() && !key.hasText()) || names.contains(use.name(group, key));
-    };
-    const auto hasSomeGroup = [&](const QmlPattern& key) {
-        return std::any_of(use.groups.begin(), use.groups.end(), [&](const auto& group) { return exists(group, key); });
-    };
-    const auto hasSomeKey = [&](const QmlPattern& group) {
-        return std::any_of(use.keys.begin(), use.keys.end(), [&](const auto& key) { return exists(group, key); });
-    };
-    const QmlPattern& firstGroup = use.groups.first();
-    bool isSomeKnown = false;
-    for (const QmlPattern& key : use.keys) {
-        if (hasSomeGroup(key)) {
-            isSomeKnown = true;
-            continue;
-        }
-        const bool isGroupWrong = !key.hasText() || !exists(firstGroup, QmlPattern::anything());
-        report(isGroupWrong ? firstGroup.place : key.place, messageFor(use, use.name(firstGroup, key), names));
-    }
-    for (const QmlPattern& group : use.groups) {
-        if (isSomeKnown && !hasSomeKey(group))
-            report(group.place, messageFor(use, use.name(group, use.keys.first()), names));
-    }
+    if (!project.qml)
+        return;
+    for (const QmlFault& fault : project.qml->rejectedCalls())
+        report(fault.place, fault.message);
 }
 
 void checkUses(const Project& project, ResourceKind kind, const Report& report)
@@ -64,9 +37,16 @@ void checkUses(const Project& project, ResourceKind kind, const Report& report)
     for (const ResourceName& resource : resources.list())
         names.append(resource.name);
     const KnownNames known(names);
+    QSet<QString> reported; // the same code can be the origin of a name in several lookups
     for (const QmlUse& use : project.qml->uses()) {
-        if (use.kind == kind)
-            checkUse(use, known, report);
+        if (use.kind != kind)
+            continue;
+        UseCheck(use, known).run([&](const Place& place, const QString& message) {
+            const QString key = QStringLiteral("%1:%2:%3 ").arg(place.path).arg(place.line).arg(place.column) + message;
+            if (!reported.contains(key))
+                report(place, message);
+            reported.insert(key);
+        });
     }
 }
 
@@ -86,6 +66,9 @@ QVector<Rule> qmlRules()
         {QStringLiteral("qml-syntax"), Severity::Error,
          QStringLiteral("The QML engine cannot load the file, and its lookups cannot be checked."), checkSyntax,
          QStringLiteral("Correct the code at this place or shortly before.")},
+        {QStringLiteral("qml-call"), Severity::Error,
+         QStringLiteral("The QML engine logs an error, and what the expression is for keeps its default."), checkCalls,
+         QStringLiteral("Correct the name of the handler or its member, or pass the missing arguments.")},
         {QStringLiteral("qml-unknown-color"), Severity::Error,
          QStringLiteral("The lookup of an unknown color returns an empty text, which QML shows as black."),
          unknown({ResourceKind::Color}), QStringLiteral("Correct the names or add the color to `colors.ini`.")},

@@ -27,7 +27,7 @@ Patterns patternsOf(const QmlUses& qml, ResourceKind kind)
             if (key.isLiteral() && qml.literals().contains(key.text()))
                 continue;
             for (const QmlPattern& group : use.groups) {
-                if (group.hasText() || key.hasText())
+                if (use.isUndeterminable || group.hasText() || key.hasText())
                     patterns.insert(use.name(group, key).text(), use.name(group, key));
             }
         }
@@ -48,7 +48,7 @@ void checkUnused(const Project& project, ResourceKind kind, const Report& report
     if (!project.qml || !project.qml->faults().isEmpty()) // QML that could not be read may use anything
         return;
     QVector<QRegularExpression> kept;
-    for (const QString& pattern : project.kept)
+    for (const QString& pattern : project.kept + project.qml->declaredNames())
         kept.append(wildcard(pattern));
     const QSet<QString>& literals = project.qml->literals();
     const Patterns patterns = patternsOf(*project.qml, kind);

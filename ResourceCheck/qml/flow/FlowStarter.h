@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ResourceCheck/qml/flow/FlowObject.h"
+
+namespace ResourceCheck
+{
+
+class Flow;
+
+/// Decides which code runs, and when.
+class FlowStarter
+{
+public:
+    explicit FlowStarter(Flow& ownFlow)
+        : flow(ownFlow)
+    {
+    }
+
+    /// Makes the objects of the files that no other file makes objects of.
+    void startFiles();
+
+    /// Starts code that nothing in the front end starts: signal handlers, functions for others, other components.
+    /// Nothing is known about its parameters. Returns whether there was any.
+    bool startUnreached();
+
+    /// Performs an operation that never changes, or adds the task for any other.
+    void start(const CodeOperation& operation, FlowFrame& frame);
+
+private:
+    void startValue(const CodeOperation& operation, FlowFrame& frame);
+    bool startUnreachedFile();
+    bool startUnreachedObjects();
+
+    Flow& flow;
+    int firstUnseen = 0; // of the objects
+};
+
+} // namespace ResourceCheck

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ResourceCheck/qml/QmlFault.h"
+#include "ResourceCheck/qml/QmlUse.h"
+#include "ResourceCheck/qml/flow/FlowObject.h"
+
+#include <QSet>
+
+namespace ResourceCheck
+{
+
+class Flow;
+struct FlowValue;
+
+/// Collects the lookups in handlers.
+class FlowUses
+{
+public:
+    explicit FlowUses(Flow& ownFlow)
+        : flow(ownFlow)
+    {
+    }
+
+    /// A lookup in the member of a handler with the values of the slots. They are all arguments if `isComplete`.
+    void record(int member, const Place& place, const std::vector<int>& arguments, bool isComplete);
+
+    /// QML uses a member that the handler, or the object that leads to handlers, does not have.
+    void recordUnknownMember(const QString& owner, const QString& name, const Place& place);
+
+    Place place(const CodeOperation& operation, const FlowFrame& frame) const;
+
+    /// The lookups with what the slots hold now, each once.
+    QVector<QmlUse> uses() const;
+
+    /// The calls and names that a device rejects.
+    const QVector<QmlFault>& faults() const { return faultList; }
+
+private:
+    struct Record {
+        int member;
+        Place place;
+        std::vector<int> arguments;
+        bool isComplete;
+    };
+
+    bool isReached(const Record& record) const;
+    void addFault(const Place& place, const QString& message);
+    QVector<QmlPattern> patterns(const Record& record, size_t argument, bool& isUndeterminable) const;
+
+    Flow& flow;
+    std::vector<Record> records;
+    QSet<QString> known;
+    QVector<QmlFault> faultList;
+};
+
+} // namespace ResourceCheck

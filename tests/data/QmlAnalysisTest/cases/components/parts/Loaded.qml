@@ -1,0 +1,3 @@
+Tile {
+    alias: "minuss" // unknown minuss
+}

@@ -1,0 +1,1 @@
+export const key = "Alaarm" // unknown Night/Alaarm

@@ -1,0 +1,1 @@
+var other = "Oother" // unknown Day/Oother

@@ -1,0 +1,10 @@
+.pragma library
+.import "more.js" as More
+
+var accent = "Acccentt" // unknown Day/Acccentt
+
+function pick(index) {
+    if (index > 3)
+        return More.other
+    return ["Text", "Teext"][index] // unknown Day/Teext
+}
