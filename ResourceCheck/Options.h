@@ -25,8 +25,8 @@ struct Options {
     QString baseline; // the file of accepted findings; empty if there is none
     bool updatesBaseline = false;
     bool fixes = false;
-    bool isDryRun = false; // only shows what `fixes` would change
-    QString format;        // `text`, `summary`, `json`, `sarif` or `gitlab`
+    bool isDryRun = false;        // only shows what `fixes` would change
+    QString format;               // `text`, `summary`, `json`, `sarif` or `gitlab`
     bool showsUnresolved = false; // list the names in QML that depend on values at run time
     Settings settings;
 
