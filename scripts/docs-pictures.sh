@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# Draws the pictures of docs/tools.md again: docs-pictures.sh
-# Writes docs/contact-sheet.png and docs/report.png. They show the sample resources and a change of them. A browser scales
-# the contact sheet to the width of a page.
+# Draws the pictures of the documentation again: docs-pictures.sh
+# They show the sample resources and a change of them. A browser scales the contact sheet to the width of a page.
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
@@ -19,6 +18,8 @@ photograph() {
     --window-size="1280,$2" --screenshot="$3" "file://$1" >>"$process_log" 2>&1
 }
 
+"$gallery" resources --screenshot docs/gallery.png 2>>"$process_log"
+"$gallery" resources --qml examples/host/main.qml --size 800x480 --screenshot docs/own-front-end.png 2>>"$process_log"
 "$gallery" resources --contact-sheet "$work/sheet.png" 2>>"$process_log"
 echo '<body style="margin:0"><img src="sheet.png" style="display:block;width:1280px">' >"$work/sheet.html"
 photograph "$work/sheet.html" 866 docs/contact-sheet.png
@@ -36,4 +37,4 @@ status=0
 [ "$status" -eq 1 ] || fail "the report of a change ended with exit status $status instead of 1"
 cd - >/dev/null
 photograph "$work/report.html" 1445 docs/report.png
-ls -l docs/contact-sheet.png docs/report.png
+ls -l docs/*.png

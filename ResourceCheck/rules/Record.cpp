@@ -76,11 +76,14 @@ QVector<Record> qtRecords()
 {
     return {
         announced(qt, "Unable to assign [undefined] to …", QStringLiteral("qml-unknown-dimension qml-unknown-text")),
+        announced(qt, "TypeError: Property '…' of object … is not a function", QStringLiteral("qml-call")),
+        announced(qt, "Error: Insufficient arguments", QStringLiteral("qml-call")),
         announced(qt, "TypeError: Cannot call method '…' of undefined", QStringLiteral("qml-unknown-text")),
         announced(qt, "QFont::setPointSizeF: Point size <= 0 (…), must be greater than 0",
                   QStringLiteral("font-size-invalid qml-unknown-font")),
         announced(qt, "QML Image: Cannot open: …", QStringLiteral("icon-missing-file icon-outside icon-case")),
         announced(qt, "QML Image: Error decoding: …", QStringLiteral("icon-unreadable svg-syntax")),
+        announced(qt, "qt.svg: …", QStringLiteral("svg-image svg-path svg-reference svg-structure svg-syntax")),
     };
 }
 
