@@ -18,9 +18,11 @@ photograph() {
     --window-size="1280,$2" --screenshot="$3" "file://$1" >>"$process_log" 2>&1
 }
 
-"$gallery" resources --screenshot docs/gallery.png 2>>"$process_log"
-"$gallery" resources --qml examples/host/main.qml --size 800x480 --screenshot docs/own-front-end.png 2>>"$process_log"
-"$gallery" resources --contact-sheet "$work/sheet.png" 2>>"$process_log"
+{
+  "$gallery" resources --screenshot docs/gallery.png
+  "$gallery" resources --qml examples/host/main.qml --size 800x480 --screenshot docs/own-front-end.png
+  "$gallery" resources --contact-sheet "$work/sheet.png"
+} 2>>"$process_log"
 echo '<body style="margin:0"><img src="sheet.png" style="display:block;width:1280px">' >"$work/sheet.html"
 photograph "$work/sheet.html" 866 docs/contact-sheet.png
 

@@ -25,7 +25,7 @@ Window {
                 spacing: 16
 
                 Image {
-                    source: Ui.icons.getIconPathAsFileUrl("home", "nightMode")
+                    source: Ui.icons.getIconPathAsFileUrl("home")
                 }
 
                 Text {
