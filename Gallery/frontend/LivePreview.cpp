@@ -48,6 +48,7 @@ LivePreview::LivePreview(TarnisUi& tarnisUi, View& galleryView)
     delay.setSingleShot(true);
     delay.setInterval(lookMilliseconds);
     connect(&delay, &QTimer::timeout, this, &LivePreview::lookAround);
+    connect(this, &LivePreview::outdated, this, &LivePreview::reloadIfChanged, Qt::QueuedConnection);
     connect(&view, &View::changed, this, &LivePreview::followView);
     connect(&ui, &TarnisUi::displaySizeChanged, this, &LivePreview::followSize);
     connect(&ui, &TarnisUi::answersChanged, this, &LivePreview::followSize);
@@ -163,7 +164,7 @@ void LivePreview::followFiles(const FrontEnd& frontEnd)
     const bool isOutdated = QmlHost::Fingerprint::of(FileRecorder::withNeighbors(oldFiles)) != fingerprint;
     fingerprint = isOutdated ? QByteArray() : QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files));
     if (isOutdated)
-        QMetaObject::invokeMethod(this, &LivePreview::reloadIfChanged, Qt::QueuedConnection);
+        Q_EMIT outdated();
 }
 
 void LivePreview::reloadIfChanged()

@@ -71,6 +71,9 @@ Q_SIGNALS:
     /// frontEnd() is another one.
     void frontEndChanged();
 
+    /// A file has changed while it was read.
+    void outdated();
+
 private:
     struct Version;
 

@@ -18,7 +18,7 @@ namespace
 QString nameOf(QObject* object)
 {
     const QQmlContext* const context = qmlContext(object);
-    const QString id = context == nullptr ? QString() : context->nameForObject(object);
+    QString id = context == nullptr ? QString() : context->nameForObject(object);
     if (!id.isEmpty())
         return id;
     // The names of QML types end with a number that differs between engines.
