@@ -1,4 +1,4 @@
-"""Writes small seeds made from the sample resources: seeds.py RESOURCES CORPUS"""
+"""Writes small seeds made from the sample resources, its front end and test data: seeds.py RESOURCES CORPUS"""
 import json
 import pathlib
 import random
@@ -26,5 +26,13 @@ for name in list(aliases)[::6]:
     seed("MappingTableFuzzer", name, compact({name: aliases[name]}))
 for index, url in enumerate(list(texts["de"])[::6]):
     seed("TextCatalogFuzzer", f"text-{index}", b"\xff".join(compact({url: texts[name].get(url)}) for name in texts))
+root = pathlib.Path(__file__).parent.parent
+for path in root.glob("tests/rules/svg-*/*/icons/day/*.svg"):
+    seed("SvgFuzzer", "-".join(path.parts[-5:-3]), path.read_bytes())
+cases = root / "tests/data/QmlAnalysisTest/cases"
+component, script = (cases / "dynamic/Icon.qml").read_bytes(), (cases / "dynamic/tools.js").read_bytes()
+for path in [*root.glob("Gallery/qml/device/*.qml"), *cases.glob("*/*.qml"), *cases.glob("*/*js")]:
+    files = [b"", component, path.read_bytes()] if path.suffix != ".qml" else [path.read_bytes(), component, script]
+    seed("QmlFuzzer", f"{path.parent.name}-{path.name}", b"\xff".join(files))
 for number in range(200):
     seed("ReplyFuzzer", f"random-{number}", random.Random(number).randbytes(200))

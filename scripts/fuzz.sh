@@ -18,16 +18,17 @@ work=$(mktemp -d "$shared_memory/fuzz.XXXXXX")
 export TMPDIR=$work
 
 fuzz() {
-  local name=$1 log=build/fuzz/$1.log failures=build/fuzz/failures/$1 regressions=() dictionary=()
+  local name=$1 log=build/fuzz/$1.log failures=build/fuzz/failures/$1 length=512 regressions=() dictionary=()
   mkdir -p "$failures"
   local options=(-artifact_prefix="$failures/" -timeout=10 -rss_limit_mb=2048)
   # Qt leaks memory on a JSON text that ends within an object; code that uses Qt cannot prevent it.
   [[ $name = IniFuzzer || $name = ReplyFuzzer ]] || ASAN_OPTIONS+=:detect_leaks=0
+  [[ $name != QmlFuzzer && $name != SvgFuzzer ]] || length=4096 # a short file of these kinds says little
   [ ! -f "fuzz/$name.dict" ] || dictionary=(-dict="fuzz/$name.dict")
   [ ! -d "fuzz/regressions/$name" ] || regressions=("fuzz/regressions/$name"/*)
   if ! {
     { [ ${#regressions[@]} -eq 0 ] || "build/fuzz/fuzz/$name" "${options[@]}" "${regressions[@]}"; } >"$log" 2>&1 &&
-      "build/fuzz/fuzz/$name" "${options[@]}" "${dictionary[@]}" -max_total_time="$SECONDS_EACH" -max_len=512 \
+      "build/fuzz/fuzz/$name" "${options[@]}" "${dictionary[@]}" -max_total_time="$SECONDS_EACH" -max_len="$length" \
         -print_final_stats=1 "build/fuzz/corpus/$name" >>"$log" 2>&1
   }; then
     tail -n 60 "$log"
