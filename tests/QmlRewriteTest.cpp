@@ -92,7 +92,8 @@ void QmlRewriteTest::codeWrittenDifferentlyHasTheSameFindings_data()
     const QString guards = "+precision unknown color \"Day/default\"\n+precision unknown color \"Day/none\"";
     // A text that was computed loses its index in a rest parameter.
     const QString spread = "\n-scripts unknown color \"Day/Surfac\"\n+scripts unknown color \"Surfac/Surfac\""
-                           "\n+scripts unknown color \"Surfac/Texxt\"";
+                           "\n+scripts unknown color \"Surfac/T"
+                           "exxt\"";
     // An empty name in a line behind that of its call counts as that of a property which is not set yet.
     const QString empty = "-calls empty name of the color\n-calls empty name of the color";
     QTest::addColumn<Rewrite>("rewrite");

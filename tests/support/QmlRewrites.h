@@ -61,7 +61,7 @@ inline QString inConstant(const QString& code)
         const QString old = match.captured(1);
         QString constants;
         const QString changed = replaced(old, literal, [&](const QString& text) {
-            const QString name = "rewritten" + QString::number(constants.size());
+            QString name = "rewritten" + QString::number(constants.size());
             constants += "const " + name + " = " + text + "; ";
             return name;
         });
