@@ -122,7 +122,7 @@ void View::setWindowSize(const QSize& size)
     if (size == initialWindowSize)
         return;
     initialWindowSize = size;
-    Q_EMIT changed();
+    Q_EMIT windowSizeChanged();
 }
 
 void View::reload()

@@ -28,7 +28,7 @@ class View : public QObject
     /// The look of the gallery itself: "light" or "dark".
     Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY changed)
     /// The size of the window when it opens, in pixels; invalid for the one that suits the screen.
-    Q_PROPERTY(QSize windowSize READ windowSize WRITE setWindowSize NOTIFY changed)
+    Q_PROPERTY(QSize windowSize READ windowSize WRITE setWindowSize NOTIFY windowSizeChanged)
 
 public:
     /// `tarnisUi` must outlive the view.
@@ -62,6 +62,7 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void windowSizeChanged();
     void copied(const QString& text);
 
 private:
