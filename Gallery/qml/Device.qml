@@ -37,7 +37,6 @@ Blocks.Page {
             checkable: true
             checked: true
             text: "Fit"
-            palette.brightText: Theme.window
             ButtonGroup.group: scales
             Accessible.description: "Scales the front end down to fit into the window"
         },
@@ -47,7 +46,6 @@ Blocks.Page {
             height: Theme.controlHeight
             checkable: true
             text: "1:1"
-            palette.brightText: Theme.window
             ButtonGroup.group: scales
             Accessible.description: "Shows each pixel of the front end as one pixel"
         },

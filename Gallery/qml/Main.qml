@@ -25,6 +25,7 @@ ApplicationWindow {
     font.pixelSize: Theme.bodySize
     palette {
         base: Theme.window
+        brightText: Theme.window
         button: Theme.surface
         buttonText: Theme.text
         dark: Theme.textSecondary
