@@ -18,7 +18,7 @@ void addTypes(const CodeUnit& unit, const FrontEnd& frontEnd, QSet<const CodeUni
 
 qint64 sizeOf(const CodeUnit& unit)
 {
-    auto size = static_cast<qint64>(unit.operations.size() + unit.objects.size());
+    auto size = static_cast<qint64>(unit.operations.size()) + static_cast<qint64>(unit.objects.size());
     for (const auto& inner : unit.units)
         size += sizeOf(*inner);
     return size;
