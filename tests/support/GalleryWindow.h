@@ -3,6 +3,7 @@
 #include "Gallery/Session.h"
 
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtTest>
@@ -31,14 +32,20 @@ public:
         window->requestActivate();
     }
 
-    /// Those of the front end follow those of the window.
+    /// Those of the front end follow those of the window. Items that wait for their deletion are left out: they have
+    /// lost their context, and Qt 5.15 crashes when one of their properties is read.
     QList<QQuickItem*> items() const
     {
         QList<QQuickItem*> found{window->contentItem()};
         if (session.preview.frontEnd() != nullptr && session.view.page().startsWith("Device"))
             found.append(session.preview.frontEnd()->window()->contentItem());
-        for (int index = 0; index < found.size(); ++index)
-            found += found.at(index)->childItems();
+        for (int index = 0; index < found.size(); ++index) {
+            const QList<QQuickItem*> children = found.at(index)->childItems();
+            std::copy_if(children.begin(), children.end(), std::back_inserter(found), [](const QQuickItem* child) {
+                const QQmlContext* context = qmlContext(child);
+                return context == nullptr || context->isValid();
+            });
+        }
         return found;
     }
 
