@@ -16,7 +16,7 @@ if [ "$preset" = --valgrind ]; then
     echo "== $test"
     # valgrind cannot follow the machine code that Qt generates for regular expressions.
     QT_ENABLE_REGEXP_JIT=0 QT_QPA_PLATFORM=minimal QT_FONT_DPI=96 QTEST_FUNCTION_TIMEOUT=3600000 \
-      valgrind --quiet --error-exitcode=99 --suppressions=tests/support/valgrind.supp \
+      valgrind --quiet --fair-sched=yes --error-exitcode=99 --suppressions=tests/support/valgrind.supp \
       --leak-check=full --show-leak-kinds=definite --errors-for-leak-kinds=definite "build/valgrind/tests/$test"
   done
   exit
