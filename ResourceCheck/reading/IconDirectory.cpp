@@ -24,7 +24,10 @@ bool IconDirectory::isOutside(const QString& relativePath)
 
 QFileInfo IconDirectory::file(const QString& relativePath) const
 {
-    return QFileInfo(directory + QLatin1Char('/') + relativePath);
+    const auto asked = askedFiles.constFind(relativePath);
+    if (asked != askedFiles.constEnd())
+        return *asked;
+    return *askedFiles.insert(relativePath, QFileInfo(directory + QLatin1Char('/') + relativePath));
 }
 
 bool IconDirectory::contains(const QString& relativePath) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileInfo>
+#include <QHash>
 #include <QMultiHash>
 #include <QString>
 #include <QStringList>
@@ -20,6 +21,7 @@ public:
     /// Whether the path leads out of the directory.
     static bool isOutside(const QString& relativePath);
 
+    /// The file as it was when it was asked for first.
     QFileInfo file(const QString& relativePath) const;
 
     /// Whether the path leads to a file inside the directory.
@@ -34,6 +36,7 @@ public:
 private:
     QString directory;
     QMultiHash<QString, QString> pathsByFoldedPath;
+    mutable QHash<QString, QFileInfo> askedFiles; // each keeps what it asks the system
 };
 
 } // namespace ResourceCheck
