@@ -2,7 +2,7 @@
 # Measures the library against its alternatives, side by side: benchmark.sh [--quick]
 # Leaves build/benchmark/report.md with its plots. Fails if a goal is missed twice, the second time with more
 # repetitions, or if a lookup needs over 5 % more instructions than benchmarks/instructions.txt allows.
-# The gallery is measured by the clock, in medians of 10, so five times its goals are tolerated.
+# The gallery and the checker are measured by the clock, in medians of 10, so five times their goals are tolerated.
 # --quick takes fewer repetitions and leaves out the mapping table of a million aliases.
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"

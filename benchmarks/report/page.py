@@ -88,5 +88,6 @@ def write(results, goals, comparisons, instructions):
         plot(results, "DimensionFile", "keys", ("library", "QSettings", "KConfig")),
         plot(results, "GeometryEvent", "display sizes", ("library", "loop")),
         plot(results, "TextMap", "URLs", ("library", "fill")),
+        plot(results, "Check", "icons, or lookups in QML", ("icons", "lookups")),
     ]
     (results.directory / "report.md").write_text("\n\n".join(sections) + "\n")

@@ -6,6 +6,7 @@ import operator
 
 from results import join, size_text
 
+CHECKED_LOOKUPS = 20_000
 TABLE = (100_000, 1)  # aliases and contexts of the mapping table that has a goal for its time
 
 
@@ -75,6 +76,19 @@ def gallery_goals(results):
                    benchmarks=(name,))
 
 
+def check_goals(results):
+    """The checker as a program, in milliseconds and mebibytes."""
+    for name, question, limit in (
+        ("sample", "checker, sample with its QML", 60),
+        ("breeze", "checker, 8,700 icons", 1000),
+        (f"lookups/{CHECKED_LOOKUPS}", f"checker, {CHECKED_LOOKUPS:,} lookups in 500 QML files", 2000),
+    ):
+        yield Goal(question, "", results.time("Check", name) / 1e6, limit, unit="ms", tolerance=5, program="Check",
+                   benchmarks=(name,))
+    peak = max(run["peak_mebibytes"] for run in results.runs["Check"].values())
+    yield Goal("checker, largest peak of memory", "", peak, 200, unit="MiB")
+
+
 def table_goals(results):
     library, least = join("library", *TABLE), join("least", *TABLE)
     yield Goal("mapping table, time", "fromJson and filling the maps", results.ratio("MappingTable", library, least), 1.3,
@@ -104,6 +118,7 @@ def goals(results):
         time_goal(results, "whole start", "bare calls, reads and parses", 1.8, "Start", "library", "bare"),
         *table_goals(results),
         *gallery_goals(results),
+        *check_goals(results),
         Goal("stripped library, KiB", "", results.counts("library.txt")["stripped size (bytes)"] / 1024, 120),
     ]
 
@@ -114,6 +129,12 @@ def table_growth(results):
     time = lambda size: results.time("MappingTable", f"library/{size}/1")
     work = lambda size: size * math.log(size)
     return (time(largest) / time(1000)) / (work(largest) / work(1000)), f"at {largest}"
+
+
+def check_growth(results, name):
+    """The time for the largest number divided by that for the smallest, as a part of linear growth."""
+    smallest, *_, largest = [size[0] for size in results.sizes("Check", name)]
+    return results.ratio("Check", join(name, largest), join(name, smallest)) * smallest / largest, f"at {largest}"
 
 
 def comparisons(results):
@@ -132,6 +153,8 @@ def comparisons(results):
         Comparison("mapping table, time", "QJsonDocument::fromJson", *by_size("MappingTable", "json")),
         Comparison("mapping table, time", "fromJson and filling the maps", *by_size("MappingTable", "least")),
         Comparison("mapping table, growth from 1,000 aliases", "n log n", *table_growth(results)),
+        Comparison("checker, growth by icons", "linear growth", *check_growth(results, "icons")),
+        Comparison("checker, growth by lookups", "linear growth", *check_growth(results, "lookups")),
         Comparison("geometry event", "loop by hand", *by_size("GeometryEvent", "loop")),
         Comparison("text map", "filling a QMap", *by_size("TextMap", "fill")),
         Comparison("connector getter", "QDBusInterface", ratio("Connector", "library", "QDBusInterface")),
