@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr int callCount = 40000;
+constexpr int mostAttempts = 5;
 
 const QMap<Scenario, QString> callErrors{
     {Scenario::RefusesWithAnError, "out of order"},
@@ -59,30 +60,43 @@ class HostileTest : public QObject
         QCOMPARE(service->firstLine(), "ready");
     }
 
+    // On a busy machine an answer may take longer than the library waits. Then the service begins again with this call.
+    Expectation answerOf(const HostileCall& call, int number, LogRecorder& log)
+    {
+        for (int attempt = 1;; ++attempt) {
+            signalCount = 0;
+            const QString result = call.getter.ask(connectors);
+            const QStringList records = withoutFoundSignature(log.take());
+            const bool isLate = !records.filter(callErrors[Scenario::AnswersTooLate]).isEmpty();
+            if (!isLate || call.scenario == Scenario::AnswersTooLate || attempt == mostAttempts)
+                return {result, records};
+            startService(number);
+        }
+    }
+
     const uint seed = QCoreApplication::arguments().value(1, "1").toUInt();
     PrivateBus bus;
     const Connectors connectors{};
     std::optional<TestProcess> service;
+    int signalCount = 0;
 
 private Q_SLOTS:
     void everyAnswerGivesItsResultAndTheNextCallSucceeds()
     {
         startService(0);
         LogRecorder log;
-        int signalCount = 0;
-        const auto count = [&signalCount] { ++signalCount; };
+        const auto count = [this] { ++signalCount; };
         connect(&connectors.resources, &DBusConnectorBase::dBusConnectionError, this, count);
         connect(&connectors.icons, &DBusConnectorBase::dBusConnectionError, this, count);
         for (int number = 0; number < callCount; ++number) {
             const HostileCall call(seed, number);
             const QString expected = expectationOf(call).text();
-            const QString result = call.getter.ask(connectors);
-            const QStringList records = withoutFoundSignature(log.take());
-            const QString found = Expectation{result, records}.text();
+            const Expectation answer = answerOf(call, number, log);
+            const QString found = answer.text();
             const QString place = QString("seed %1, call %2 to %3").arg(seed).arg(number).arg(call.getter.method);
             QVERIFY2(found == expected,
                      qPrintable(place + "\nfound " + found.left(1000) + "\nexpected " + expected.left(1000)));
-            QCOMPARE(std::exchange(signalCount, 0), records.filter("syncCallHelper").size() / 2);
+            QCOMPARE(signalCount, answer.records.filter("syncCallHelper").size() / 2);
             if (call.scenario == Scenario::DiesBeforeAnswering)
                 startService(number + 1);
             if (call.scenario == Scenario::LeavesTheBusWithoutAnswering)
