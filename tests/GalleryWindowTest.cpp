@@ -1,7 +1,6 @@
-// What holds for the gallery's window on every page: keys, looks and sizes.
+// What holds for the gallery's window on every page: keys, theme and size.
 
 #include "tests/support/GalleryWindow.h"
-#include "ResourceFormat/Contrast.h"
 #include "tests/support/GalleryFixture.h"
 
 namespace Tests
@@ -42,23 +41,6 @@ class GalleryWindowTest : public QObject
         }
         return found;
     }
-
-    // The color of the nearest opaque rectangle behind a text; invalid if it cannot be told.
-    static QColor behind(const QQuickItem* item)
-    {
-        for (; item != nullptr; item = item->parentItem()) {
-            const auto* background = item->property("background").value<QQuickItem*>();
-            for (const QQuickItem* candidate : {item, background}) {
-                const bool isRectangle = candidate != nullptr && candidate->inherits("QQuickRectangle");
-                const QColor color = isRectangle ? candidate->property("color").value<QColor>() : QColor();
-                if (color.alpha() == 255 && color.isValid())
-                    return color;
-            }
-        }
-        return {};
-    }
-
-    QRgb corner() const { return gallery->window->grabWindow().pixel(130, 470); } // of the page
 
 private Q_SLOTS:
     static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
@@ -113,7 +95,7 @@ private Q_SLOTS:
         }
     }
 
-    void everyPageFitsAndCanBeRead_data()
+    void everyPageFits_data()
     {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<QString>("theme");
@@ -123,7 +105,7 @@ private Q_SLOTS:
         }
     }
 
-    void everyPageFitsAndCanBeRead()
+    void everyPageFits()
     {
         QFETCH(QSize, size);
         QFETCH(QString, theme);
@@ -139,24 +121,6 @@ private Q_SLOTS:
                 const QString text = page + ": " + item->metaObject()->className() + item->property("text").toString();
                 QVERIFY2(place.left() > -1 && place.right() < size.width() + 1, qPrintable(text));
             }
-            int judged = 0;
-            for (const QQuickItem* item : ownItems()) {
-                const QColor ground = behind(item);
-                if (!item->isVisible() || !item->isEnabled() || !item->inherits("QQuickText")
-                    || item->window() != gallery->window
-                    || item->property("text").toString().startsWith("<font") // drawn in the color of the user
-                    || item->property("text").toString().isEmpty())
-                    continue;
-                const auto color = item->property("color").value<QColor>();
-                const QColor shown = ground.isValid() ? ground : gallery->window->color();
-                const double ratio = ResourceFormat::Contrast::ratio(color, shown);
-                ++judged;
-                const QString text = QString("%1: \"%2\" %3 on %4 has %5:1")
-                                         .arg(page, item->property("text").toString(), color.name(), shown.name())
-                                         .arg(ratio);
-                QVERIFY2(ratio >= ResourceFormat::Contrast::minimumAA, qPrintable(text));
-            }
-            QVERIFY(judged > 8);
         }
     }
 };
