@@ -122,7 +122,7 @@ void ServiceSource::interview()
 void ServiceSource::reportSilence()
 {
     qWarning("%s", qPrintable(Interview::silence()));
-    report(Answers(), Interview::silence());
+    reportFailure(Interview::silence());
 }
 
 void ServiceSource::renewAnswers()
@@ -130,6 +130,13 @@ void ServiceSource::renewAnswers()
     watch(watchedDirectory);
     lastAnswers.renew(areFilesFollowed);
     report(lastAnswers, lastProblem);
+}
+
+// With the answers before, so that whoever judges their files keeps what it has found.
+void ServiceSource::reportFailure(const QString& problem)
+{
+    lastProblem = problem;
+    renewAnswers();
 }
 
 void ServiceSource::report(const Answers& answers, const QString& problem)
@@ -182,7 +189,7 @@ void ServiceSource::reportBusFailure()
     forgetCall();
     repetition.stop();
     const QString advice = QStringLiteral(", and this process cannot reconnect to it; restart the process.");
-    report(Answers(), busFailure + advice);
+    reportFailure(busFailure + advice);
 }
 
 } // namespace QmlHost
