@@ -58,6 +58,23 @@ private Q_SLOTS:
         QTRY_VERIFY2_WITH_TIMEOUT(gallery->text().contains(sentence), qPrintable(gallery->text()), 10000);
     }
 
+    void emptyDirectoryGivesTheSentencesAndNamesWhatIsMissing_data() { addRows({"page", "sentence"}); }
+
+    void emptyDirectoryGivesTheSentencesAndNamesWhatIsMissing()
+    {
+        open(fixture->path());
+        show(row()["page"].toString());
+        gallery->session.findings.start();
+        const QString sentence = row()["sentence"].toString();
+        QTRY_VERIFY2_WITH_TIMEOUT(gallery->text().contains(sentence), qPrintable(gallery->text()), 10000);
+        for (const QString missing : {"colors.ini does not exist", "fonts.ini does not exist",
+                                      "dimensions contains no dimension file", "icons/mapping.json does not exist"})
+            QVERIFY2(gallery->text().contains(fixture->path(missing)), qPrintable(gallery->text()));
+        fixture->copyResources();
+        QTRY_COMPARE_WITH_TIMEOUT(gallery->session.ui.problem(), QString(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!gallery->text().contains(sentence), 10000);
+    }
+
     void clickCopiesAValidExpression_data() { addRows({"page", "search", "expression", "value"}); }
 
     void clickCopiesAValidExpression()
