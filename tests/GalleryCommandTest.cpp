@@ -128,6 +128,17 @@ private Q_SLOTS:
         QVERIFY2(bad.errors.contains("wifi.svg"), bad.errors);
     }
 
+    void themeOfTheCommandLineIsShown()
+    {
+        const QString picture = fixture->path("picture.png");
+        for (const QString theme : {"light", "dark"}) {
+            run(TARNIS_GALLERY, {RESOURCES, "--theme", theme, "--page", "Log", "--screenshot", picture});
+            const int light = countPixels(QImage(picture), 0xffffff);
+            const int dark = countPixels(QImage(picture), 0x14181d);
+            QVERIFY2(theme == "light" ? light > 500000 : dark > 500000, qPrintable(theme));
+        }
+    }
+
     void incompletePictureIsReported()
     {
         QTcpServer silent; // the system accepts connections, but nobody answers

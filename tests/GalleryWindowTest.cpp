@@ -42,6 +42,22 @@ class GalleryWindowTest : public QObject
         return found;
     }
 
+    // The visible item whose property has this value.
+    QQuickItem* find(const char* property, const QString& value) const
+    {
+        for (QQuickItem* item : gallery->items()) {
+            if (item->isVisible() && item->window() == gallery->window && item->property(property).toString() == value)
+                return item;
+        }
+        return nullptr;
+    }
+
+    void click(const QQuickItem* item) const
+    {
+        const QPointF center(item->width() / 2, item->height() / 2);
+        QTest::mouseClick(gallery->window, Qt::LeftButton, {}, item->mapToScene(center).toPoint());
+    }
+
 private Q_SLOTS:
     static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
 
@@ -122,6 +138,36 @@ private Q_SLOTS:
                 QVERIFY2(place.left() > -1 && place.right() < size.width() + 1, qPrintable(text));
             }
         }
+    }
+
+    void openListOfLanguagesShowsAllOfThemAndSwitches_data()
+    {
+        QTest::addColumn<QSize>("size");
+        for (const QSize size : {QSize(480, 320), QSize(800, 480), QSize(1280, 800)})
+            QTest::addRow("%d", size.width()) << size;
+    }
+
+    void openListOfLanguagesShowsAllOfThemAndSwitches()
+    {
+        QFETCH(QSize, size);
+        open(RESOURCES);
+        gallery->window->resize(size);
+        QTRY_COMPARE_WITH_TIMEOUT(gallery->window->contentItem()->size().toSize(), size, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(gallery->session.ui.languages().size(), 5, 10000);
+        click(find("label", "Text language"));
+        for (const QString label : {"de_AT", "ja", "en_XA: longer, accented", "ar_XB: right to left"}) {
+            QTRY_VERIFY2_WITH_TIMEOUT(find("text", label) != nullptr, qPrintable(label), 10000);
+            const QQuickItem* item = find("text", label);
+            const QRectF place = item->mapRectToScene(item->boundingRect());
+            QVERIFY2(QRectF(QPointF(), size).contains(place), qPrintable(label));
+            for (const QQuickItem* part : gallery->items()) {
+                if (part->isVisible() && part->inherits("QQuickText") && part->property("text").toString() == label)
+                    QVERIFY2(!part->property("truncated").toBool(), qPrintable(label));
+            }
+        }
+        click(find("text", "ar_XB: right to left"));
+        QTRY_COMPARE_WITH_TIMEOUT(gallery->session.ui.language(), QString("ar_XB"), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(find("text", "ja") == nullptr, 10000); // the list is closed
     }
 };
 
