@@ -117,6 +117,32 @@ private Q_SLOTS:
         QVERIFY2(gallery->text().contains("view box"), qPrintable(gallery->text()));
     }
 
+    void openListsCanBeRead()
+    {
+        gallery.emplace(TarnisUi::directory(resources->path));
+        QVERIFY(gallery->session.ui.waitUntilReady(10000));
+        gallery->session.view.setPage("Log");
+        settle();
+        int lists = 0;
+        for (QQuickItem* item : gallery->items()) {
+            if (!item->isVisible() || !item->inherits("QQuickComboBox"))
+                continue;
+            auto* const popup = item->property("popup").value<QObject*>();
+            for (const QString& theme : Gallery::View::themes()) {
+                gallery->session.view.setTheme(theme);
+                QMetaObject::invokeMethod(popup, "open");
+                QTRY_VERIFY_WITH_TIMEOUT(popup->property("opened").toBool(), 10000);
+                int judged = 0;
+                const QStringList found = unreadable(judged);
+                QVERIFY2(found.isEmpty(), qPrintable(theme + '\n' + found.join('\n')));
+                QMetaObject::invokeMethod(popup, "close");
+                QTRY_VERIFY_WITH_TIMEOUT(!popup->property("visible").toBool(), 10000);
+            }
+            ++lists;
+        }
+        QCOMPARE(lists, 5);
+    }
+
     void everyTextCanBeReadBeforeAndAfterASwitchOfTheTheme_data()
     {
         QTest::addColumn<QSize>("size");
