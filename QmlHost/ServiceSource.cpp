@@ -122,7 +122,7 @@ void ServiceSource::interview()
 void ServiceSource::reportSilence()
 {
     qWarning("%s", qPrintable(Interview::silence()));
-    reportFailure(Interview::silence());
+    report(lastAnswers, Interview::silence()); // so that hosts that judge files keep what they have found
 }
 
 void ServiceSource::renewAnswers()
@@ -130,13 +130,6 @@ void ServiceSource::renewAnswers()
     watch(watchedDirectory);
     lastAnswers.renew(areFilesFollowed);
     report(lastAnswers, lastProblem);
-}
-
-// With the answers before, so that whoever judges their files keeps what it has found.
-void ServiceSource::reportFailure(const QString& problem)
-{
-    lastProblem = problem;
-    renewAnswers();
 }
 
 void ServiceSource::report(const Answers& answers, const QString& problem)
@@ -189,7 +182,7 @@ void ServiceSource::reportBusFailure()
     forgetCall();
     repetition.stop();
     const QString advice = QStringLiteral(", and this process cannot reconnect to it; restart the process.");
-    reportFailure(busFailure + advice);
+    report(lastAnswers, busFailure + advice);
 }
 
 } // namespace QmlHost

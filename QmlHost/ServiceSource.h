@@ -38,7 +38,6 @@ private:
     void interview();
     void reportSilence();
     void renewAnswers();
-    void reportFailure(const QString& problem);
     void report(const Answers& answers, const QString& problem);
     void forgetCall();
     void watch(const QString& directory);

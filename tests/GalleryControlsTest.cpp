@@ -1,5 +1,6 @@
 // The controls of the gallery's window: keys, lists of choices, filters and banners.
 
+#include "Gallery/Screenshots.h"
 #include "tests/support/DataRows.h"
 #include "tests/support/FrontEndFiles.h"
 #include "tests/support/GalleryFixture.h"
@@ -149,6 +150,18 @@ private Q_SLOTS:
         choose("Severity of the messages", row()["severity"].toString());
         gallery->session.view.setSearch(row()["search"].toString());
         QTRY_COMPARE_WITH_TIMEOUT(shownMessages(), rowTexts("shown"), 10000);
+    }
+
+    void pictureOfAnUnfinishedComparisonIsIncomplete()
+    {
+        std::atomic<int> questions{0};
+        gallery.emplace(std::make_unique<SilentSource>(questions),
+                        [](Gallery::Session& session) { session.compareWith(RESOURCES); });
+        gallery->session.view.setPage("Compare");
+        Gallery::Screenshots screenshots(*gallery->window, gallery->session);
+        const QString picture = fixture->path("picture.png");
+        QVERIFY(screenshots.take(picture));
+        QCOMPARE(screenshots.incomplete(), QStringList(picture));
     }
 
     void bannerStandsAboveTheLastGoodFrontEnd()
