@@ -1,6 +1,7 @@
 #include "Gallery/LastGoodSource.h"
 
 #include "Gallery/PseudoLanguage.h"
+#include "QmlHost/Fingerprint.h"
 #include "ResourceCheck/Settings.h"
 #include "ResourceFormat/Directory.h"
 #include "ResourceFormat/DisplaySize.h"
@@ -52,17 +53,21 @@ QStringList faultsOfMissingParts(const Answers& answers, const Directory& direct
     return faults;
 }
 
-// The checker's settings name pairs of colors. They stay beside the colors.
-void copySettings(const QString& from, const QString& to)
+// The checker's settings name pairs of colors. They stay beside the colors. Returns the path of the copy.
+QString copySettings(const QString& from, const QString& to)
 {
     const QString name = QLatin1Char('/') + ResourceCheck::Settings::fileName();
-    QString unreadable;
-    const QByteArray content = RegularFile::readAll(from + name, unreadable);
+    QString missing;
+    QString uncopied;
+    const QByteArray content = RegularFile::readAll(from + name, missing);
     QFile copy(to + name);
-    if (!unreadable.isNull())
+    if (!missing.isNull())
         copy.remove();
+    else if (RegularFile::readAll(copy.fileName(), uncopied) == content && uncopied.isNull())
+        return copy.fileName();
     else if (copy.open(QIODevice::WriteOnly))
         copy.write(content);
+    return copy.fileName();
 }
 
 // Without the sentences on a file whose fault is known: they are less exact.
@@ -106,9 +111,11 @@ void LastGoodSource::passOn(const Answers& answers, const QString& problem)
     Answers copied = answers;
     QStringList faults;
     const Directory copies = files.copies();
-    copySettings(directory, copies.path());
-    if (answers.colorFile.isAnswered())
+    const QString settings = copySettings(directory, copies.path());
+    if (answers.colorFile.isAnswered()) {
         copied.setColorFile(files.update(answers.colorFile.value, copies.colorFile(), FileFaults::ofIni, faults));
+        copied.colorFile.fingerprint += QmlHost::Fingerprint::of({settings});
+    }
     if (answers.fontFile.isAnswered())
         copied.setFontFile(files.update(answers.fontFile.value, copies.fontFile(), FileFaults::ofIni, faults));
     copyDimensions(copied, faults);

@@ -22,7 +22,8 @@ struct Parser : QCommandLineParser {
         setApplicationDescription(QStringLiteral(
             "Shows the resources of a device's front end and follows the changes of their files. They are those of "
             "the directory DIR or, without DIR, those that the service Module.Tarnis on the system bus provides.\n\n"
-            "Exit status: 0 success; 1 the resources, the display or a lookup failed; 2 wrong usage. With --report: "
+            "Exit status: 0 success; 1 the resources, the display or a lookup failed; 2 wrong usage; 3 a page was not "
+            "complete after 10 s, and its picture shows it as it was. With --report: "
             "0 nothing has changed; 1 something has changed; 2 wrong usage; 3 something could not be read or the "
             "report not be written."));
         addPositionalArgument(QStringLiteral("DIR"),

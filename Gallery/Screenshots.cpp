@@ -53,11 +53,25 @@ bool Screenshots::take(const QString& path)
     QDeadlineTimer settled(settleMilliseconds);
     while (!settled.hasExpired() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, settleMilliseconds);
-        if (!window.isExposed() || session.catalogs.isReading() || session.findings.isRunning()
-            || isLoading(*window.contentItem()))
+        if (isChanging())
             settled = QDeadlineTimer(settleMilliseconds);
     }
+    if (isChanging())
+        incompletePictures.append(path);
     return window.isExposed() && window.grabWindow().save(path);
+}
+
+QStringList Screenshots::incomplete() const
+{
+    return incompletePictures;
+}
+
+bool Screenshots::isChanging() const
+{
+    const FrontEnd* const frontEnd = session.preview.frontEnd();
+    const bool isComparing = session.comparison && session.comparison->revision() == 0;
+    return !window.isExposed() || session.catalogs.isReading() || session.findings.isRunning() || isComparing
+        || isLoading(*window.contentItem()) || (frontEnd != nullptr && isLoading(*frontEnd->window()->contentItem()));
 }
 
 void Screenshots::showWholeDisplay()

@@ -1,16 +1,13 @@
 #include "Gallery/Dump.h"
-#include "Gallery/LastGoodSource.h"
+#include "Gallery/ExitStatus.h"
 #include "Gallery/Options.h"
-#include "Gallery/Screenshots.h"
+#include "Gallery/PictureCommands.h"
 #include "Gallery/Session.h"
-#include "Gallery/compare/ContactSheet.h"
-#include "Gallery/compare/FrontEndPictures.h"
-#include "Gallery/compare/Report.h"
+#include "Gallery/compare/ReportCommand.h"
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -19,17 +16,8 @@ using namespace Gallery;
 namespace
 {
 
-// With --report, 1 means that something has changed.
-enum ExitStatus { Success = 0, Failure = 1, WrongUsage = 2, Incomplete = 3 };
-
 constexpr int firstFrameMilliseconds = 400; // for a first frame with resources; a window without them opens after it
 constexpr int answerMilliseconds = 10000;   // longer than a call to the service may last
-
-int fail(ExitStatus status, const QString& message)
-{
-    std::fprintf(stderr, "tarnis-gallery: %s\n", qPrintable(message));
-    return status;
-}
 
 // Qt ends the process when there is no display. This handler reports it in a sentence first.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
@@ -39,48 +27,6 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
         std::_Exit(Failure);
     }
     std::fprintf(stderr, "%s\n", qPrintable(text));
-}
-
-// The exit status after pictures were taken, which depends on what was logged meanwhile.
-int judgeLookups(Session& session)
-{
-    const QStringList failedLookups = session.log.takeNew();
-    if (!failedLookups.isEmpty())
-        return fail(Failure, QStringLiteral("lookups failed:\n") + failedLookups.join(QLatin1Char('\n')));
-    return session.ui.problem().isEmpty() ? Success : Failure;
-}
-
-int takePictures(QQuickWindow& window, Session& session, const Options& options)
-{
-    Screenshots screenshots(window, session);
-    const bool isTaken = options.screenshot.isEmpty() ? screenshots.takeAll(options.screenshotDirectory)
-                                                      : screenshots.take(options.screenshot);
-    if (!isTaken) {
-        return fail(Failure,
-                    QStringLiteral("cannot draw or write %1").arg(options.screenshot + options.screenshotDirectory));
-    }
-    if (!session.preview.problem().isEmpty())
-        return fail(Failure, session.preview.problem());
-    return judgeLookups(session);
-}
-
-int takeContactSheet(Session& session, const Options& options)
-{
-    session.log.takeNew(); // what comes after it is of lookups
-    FrontEndPictures frontEnd(session.ui, LivePreview::urlOf(options.qmlFile));
-    const QString resources = options.directory.isEmpty() ? QStringLiteral("the service") : options.directory;
-    ContactSheet sheet(QStringLiteral("%1 with %2").arg(session.preview.name(), resources),
-                       session.catalogs.dimensions.displays(), session.catalogs.icons.contexts(),
-                       session.ui.languages());
-    const QImage picture =
-        sheet.draw([&frontEnd](const QString& display, const QString& context, const QString& language) {
-            return frontEnd.draw(display, context, language);
-        });
-    if (!frontEnd.problem().isEmpty())
-        return fail(Failure, frontEnd.problem());
-    if (!picture.save(options.contactSheet, "PNG"))
-        return fail(Failure, QStringLiteral("cannot draw or write %1").arg(options.contactSheet));
-    return judgeLookups(session);
 }
 
 int show(Session& session, const Options& options)
@@ -95,7 +41,8 @@ int show(Session& session, const Options& options)
         session.findings.start();
         return QGuiApplication::exec();
     }
-    return takePictures(*qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst()), session, options);
+    auto* const window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+    return PictureCommands::takeScreenshots(*window, session, options);
 }
 
 void apply(const Options& options, Session& session)
@@ -136,35 +83,11 @@ int run(const Options& options)
     });
     session.publish();
     if (!options.contactSheet.isEmpty())
-        return takeContactSheet(session, options);
+        return PictureCommands::takeContactSheet(session, options);
     if (!options.isDump)
         return show(session, options);
     std::fputs(dump(session.catalogs).constData(), stdout);
     return session.ui.problem().isEmpty() ? Success : Failure;
-}
-
-Snapshot snapshot(const QString& directory)
-{
-    return Snapshot::of(std::make_unique<LastGoodSource>(TarnisUi::directory(directory)));
-}
-
-int compare(const Options& options)
-{
-    const Comparison comparison(snapshot(options.oldDirectory), snapshot(options.directory));
-    for (const QString& problem : comparison.oldSide().problems() + comparison.newSide().problems())
-        fail(Incomplete, problem);
-    const ScreenComparison screens =
-        ScreenComparison::of(options.oldDirectory, options.directory,
-                             {LivePreview::urlOf(options.qmlFile), options.context, options.language});
-    const Report report(comparison, screens, options.oldDirectory, options.directory);
-    const QByteArray html = report.html();
-    QSaveFile file(options.report);
-    if (!file.open(QIODevice::WriteOnly) || file.write(html) != html.size() || !file.commit())
-        return fail(Incomplete, QStringLiteral("cannot write %1: %2").arg(options.report, file.errorString()));
-    std::printf("%s\n", qPrintable(comparison.verdict()));
-    if (!comparison.isComplete())
-        return Incomplete;
-    return comparison.changes().isEmpty() ? Success : Failure;
 }
 
 } // namespace
@@ -189,5 +112,5 @@ int main(int argc, char* argv[])
     const QString wrongUsage = options.parse(argc, argv);
     if (!wrongUsage.isEmpty())
         return fail(WrongUsage, wrongUsage);
-    return options.report.isEmpty() ? run(options) : compare(options);
+    return options.report.isEmpty() ? run(options) : writeReport(options);
 }

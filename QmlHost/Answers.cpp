@@ -73,6 +73,11 @@ void Answers::setTexts(const QString& resourceDirectory)
     textFolder = {directory.textFolder(), Fingerprint::of(paths)};
 }
 
+void Answers::setNoTexts(const QString& resourceDirectory)
+{
+    textFolder = {ResourceFormat::Directory(resourceDirectory).textFolder(), Fingerprint::of({})};
+}
+
 void Answers::renew(bool includesIconFiles)
 {
     setColorFile(colorFile.value);
@@ -85,7 +90,7 @@ void Answers::renew(bool includesIconFiles)
 
 QString Answers::directory() const
 {
-    for (const QString& path : {colorFile.value, fontFile.value, icons.value.first}) {
+    for (const QString& path : {colorFile.value, fontFile.value, icons.value.first, textFolder.value}) {
         if (!path.isEmpty())
             return QFileInfo(path).path();
     }

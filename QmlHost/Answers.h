@@ -53,6 +53,9 @@ struct Answers {
     /// Answers with the texts of the resource directory, if it has any.
     void setTexts(const QString& resourceDirectory);
 
+    /// Answers that the resource directory, which has been read, contains no texts.
+    void setNoTexts(const QString& resourceDirectory);
+
     /// Records the state of the files of all answered parts again.
     void renew(bool includesIconFiles);
 

@@ -55,6 +55,10 @@ void DirectorySource::ask()
     QString problem = QDir(path).exists() ? readAll(directory, answers) : path + QStringLiteral(" is not a directory");
     if (problem.isEmpty() && !watcher.problem().isEmpty())
         problem = QStringLiteral("%1: changes are not followed: %2").arg(path, watcher.problem());
+    // Hosts need not wait for a directory without resources. Later, what was there stays.
+    if (!hasAnswered && !answers.isAnyAnswered() && QDir(path).exists())
+        answers.setNoTexts(path);
+    hasAnswered = hasAnswered || answers.isAnyAnswered();
     Q_EMIT answered(answers, problem);
 }
 

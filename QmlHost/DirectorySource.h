@@ -23,6 +23,7 @@ public:
 private:
     const QString path;
     DirectoryWatcher watcher;
+    bool hasAnswered = false;
 };
 
 } // namespace QmlHost

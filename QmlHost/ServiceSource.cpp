@@ -122,7 +122,7 @@ void ServiceSource::interview()
 void ServiceSource::reportSilence()
 {
     qWarning("%s", qPrintable(Interview::silence()));
-    report(Answers(), Interview::silence());
+    report(lastAnswers, Interview::silence()); // so that hosts that judge files keep what they have found
 }
 
 void ServiceSource::renewAnswers()
@@ -182,7 +182,7 @@ void ServiceSource::reportBusFailure()
     forgetCall();
     repetition.stop();
     const QString advice = QStringLiteral(", and this process cannot reconnect to it; restart the process.");
-    report(Answers(), busFailure + advice);
+    report(lastAnswers, busFailure + advice);
 }
 
 } // namespace QmlHost

@@ -57,6 +57,22 @@ private Q_SLOTS:
         QCOMPARE(describe(session.catalogs.colors, row()["search"].toString()), rowTexts("rows"));
     }
 
+    void openPageFollowsThePairsOfTheSettings()
+    {
+        const GalleryFixture fixture;
+        writeFile(fixture.path("colors.ini"), "[Day]\nA=red\nB=blue\nC=white\n");
+        GalleryWindow gallery(TarnisUi::directory(fixture.path()));
+        gallery.session.view.setPage("Colors");
+        const QString settings = fixture.path(".tarnis-check.ini");
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("red"), 10000);
+        for (const char background : {'B', 'C'}) {
+            writeFile(settings, QByteArray("[Options]\ncontrast=Day/A:Day/") + background + '\n');
+            QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains(QString("A on ") + background), 10000);
+        }
+        QVERIFY(QFile::remove(settings));
+        QTRY_VERIFY_WITH_TIMEOUT(!gallery.text().contains("A on "), 10000);
+    }
+
     void remarkableDimensionsAreFound_data() { addRows({"displays", "remarks"}); }
 
     void remarkableDimensionsAreFound()

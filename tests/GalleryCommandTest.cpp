@@ -4,6 +4,7 @@
 #include "tests/support/GalleryFixture.h"
 
 #include <QSettings>
+#include <QTcpServer>
 
 namespace Tests
 {
@@ -125,6 +126,30 @@ private Q_SLOTS:
         const Outcome bad = run(TARNIS_GALLERY, {"--screenshot", fixture->path("one.png")});
         QCOMPARE(bad.exitStatus, 1);
         QVERIFY2(bad.errors.contains("wifi.svg"), bad.errors);
+    }
+
+    void themeOfTheCommandLineIsShown()
+    {
+        const QString picture = fixture->path("picture.png");
+        for (const QString theme : {"light", "dark"}) {
+            run(TARNIS_GALLERY, {RESOURCES, "--theme", theme, "--page", "Log", "--screenshot", picture});
+            const int light = countPixels(QImage(picture), 0xffffff);
+            const int dark = countPixels(QImage(picture), 0x14181d);
+            QVERIFY2(theme == "light" ? light > 500000 : dark > 500000, qPrintable(theme));
+        }
+    }
+
+    void incompletePictureIsReported()
+    {
+        QTcpServer silent; // the system accepts connections, but nobody answers
+        QVERIFY(silent.listen(QHostAddress::LocalHost));
+        const QString image = "import QtQuick 2.15\nImage { source: 'http://localhost:%1/' }\n";
+        const QString qml = writeFile(fixture->path("Waiting.qml"), image.arg(silent.serverPort()).toUtf8());
+        const QString picture = fixture->path("picture.png");
+        const Outcome outcome = run(TARNIS_GALLERY, {RESOURCES, "--qml", qml, "--screenshot", picture});
+        QVERIFY2(outcome.exitStatus == 3, outcome.errors);
+        QVERIFY2(outcome.errors.contains("picture.png: the page was not complete"), outcome.errors);
+        QVERIFY(!QImage(picture).isNull());
     }
 
     void wrongUseIsRefusedInASentence_data()

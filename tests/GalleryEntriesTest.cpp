@@ -58,6 +58,44 @@ private Q_SLOTS:
         QTRY_VERIFY2_WITH_TIMEOUT(gallery->text().contains(sentence), qPrintable(gallery->text()), 10000);
     }
 
+    void emptyDirectoryGivesTheSentencesAndNamesWhatIsMissing_data() { addRows({"page", "sentence"}); }
+
+    void emptyDirectoryGivesTheSentencesAndNamesWhatIsMissing()
+    {
+        open(fixture->path());
+        show(row()["page"].toString());
+        gallery->session.findings.start();
+        const QString sentence = row()["sentence"].toString();
+        QTRY_VERIFY2_WITH_TIMEOUT(gallery->text().contains(sentence), qPrintable(gallery->text()), 10000);
+        for (const QString missing : {"colors.ini does not exist", "fonts.ini does not exist",
+                                      "dimensions contains no dimension file", "icons/mapping.json does not exist"})
+            QVERIFY2(gallery->text().contains(fixture->path(missing)), qPrintable(gallery->text()));
+        fixture->copyResources();
+        QTRY_COMPARE_WITH_TIMEOUT(gallery->session.ui.problem(), QString(), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!gallery->text().contains(sentence), 10000);
+    }
+
+    void onlyControlOfAPageMayAppearLater()
+    {
+        open(RESOURCES);
+        QQmlComponent component(&gallery->engine);
+        component.setData("import QtQuick 2.15\nimport 'qrc:/qml/blocks'\nPage {\n"
+                          "controls: Item { objectName: 'control'; width: 10; height: 10; visible: false }\n"
+                          "Item { objectName: 'content'; anchors.fill: parent }\n}",
+                          QUrl());
+        const std::unique_ptr<QQuickItem> page(qobject_cast<QQuickItem*>(component.create()));
+        QVERIFY2(page != nullptr, qPrintable(component.errorString()));
+        page->setParentItem(gallery->window->contentItem());
+        page->setSize({400, 300});
+        const auto contentPlace = [&] {
+            return page->findChild<QQuickItem*>("content")->mapToItem(page.get(), {}).y();
+        };
+        QCOMPARE(contentPlace(), 0.0);
+        page->findChild<QQuickItem*>("control")->setVisible(true);
+        QTRY_COMPARE_WITH_TIMEOUT(contentPlace(), 8 + 10 + 8.0, 10000); // with the margins
+        QVERIFY(page->findChild<QQuickItem*>("control")->isVisible());
+    }
+
     void clickCopiesAValidExpression_data() { addRows({"page", "search", "expression", "value"}); }
 
     void clickCopiesAValidExpression()

@@ -50,6 +50,24 @@ private Q_SLOTS:
         fixture->signalModule(SIGCONT);
     }
 
+    void faultOfAFileStaysReportedWhileTheServiceHangs()
+    {
+        fixture->startModule(resources->path);
+        GalleryWindow gallery(TarnisUi::service(TarnisUi::Files::Followed));
+        QVERIFY(gallery.session.ui.waitUntilReady(10000));
+        fixture->signalModule(SIGSTOP);
+        resources->shell("cp colors.ini ../good; echo Back >> colors.ini");
+        const QString fault = resources->path + "/colors.ini:";
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains(fault), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(gallery.text().contains("does not answer"), 10000);
+        QVERIFY2(gallery.text().contains(fault), qPrintable(gallery.text()));
+        resources->shell("mv ../good colors.ini");
+        QTRY_VERIFY2_WITH_TIMEOUT(!gallery.text().contains(fault), qPrintable(gallery.text()), 10000);
+        QVERIFY(gallery.text().contains("does not answer"));
+        fixture->signalModule(SIGCONT);
+        QTRY_COMPARE_WITH_TIMEOUT(gallery.session.ui.problem(), QString(), 10000);
+    }
+
     void restartedServiceIsNoticed()
     {
         fixture->startModule(resources->path);

@@ -72,14 +72,17 @@ const QVector<Snapshot::Kind>& Snapshot::kinds()
 Snapshot::Snapshot(const Answers& answers, const QString& problem)
     : problemTexts(problem.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
 {
+    // A directory may have no texts, but not nothing at all.
+    const bool areTextsKnown = answers.colorFile.isAnswered() || answers.fontFile.isAnswered()
+        || answers.displaySizes.isAnswered() || answers.icons.isAnswered() || !answers.languages.isEmpty();
     const QPair<Kind, bool> parts[] = {
         {Color, answers.colorFile.isAnswered()},
         {Font, answers.fontFile.isAnswered()},
         {Dimension, answers.displaySizes.isAnswered()},
         {Display, answers.displaySizes.isAnswered()},
         {Icon, answers.icons.isAnswered()},
-        {Text, answers.isAnyAnswered()}, // a directory may have no texts
-        {Language, answers.isAnyAnswered()},
+        {Text, areTextsKnown},
+        {Language, areTextsKnown},
     };
     for (const auto& [kind, isAnswered] : parts) {
         if (!isAnswered)

@@ -47,7 +47,7 @@ QStringList FileRecorder::files() const
     return sorted;
 }
 
-QStringList FileRecorder::withNeighbors(const QStringList& files)
+QByteArray FileRecorder::fingerprint(const QStringList& files)
 {
     static const QStringList kinds{QStringLiteral("*.qml"), QStringLiteral("*.js"), QStringLiteral("*.mjs"),
                                    QStringLiteral("qmldir")};
@@ -61,7 +61,7 @@ QStringList FileRecorder::withNeighbors(const QStringList& files)
         for (const QString& name : names)
             all.append(folder + QLatin1Char('/') + name);
     }
-    return all;
+    return QmlHost::Fingerprint::of(all);
 }
 
 } // namespace Gallery

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QMutex>
 #include <QQmlAbstractUrlInterceptor>
 #include <QSet>
@@ -22,8 +23,8 @@ public:
     /// The paths of the files, including missing ones and without those of the modules installed with Qt. Sorted.
     QStringList files() const;
 
-    /// These files and the others in their folders from which QML may take types.
-    static QStringList withNeighbors(const QStringList& files);
+    /// Of these files and the others in their folders from which QML may take types, see QmlHost::Fingerprint.
+    static QByteArray fingerprint(const QStringList& files);
 
 private:
     mutable QMutex mutex;

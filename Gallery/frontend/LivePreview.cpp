@@ -1,7 +1,5 @@
 #include "Gallery/frontend/LivePreview.h"
 
-#include "QmlHost/Fingerprint.h"
-
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLocale>
@@ -122,7 +120,7 @@ void LivePreview::reset()
 
 void LivePreview::build(bool keepsState)
 {
-    fingerprint = QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files));
+    fingerprint = FileRecorder::fingerprint(files);
     const QVariantMap properties{{QStringLiteral("context"), view.context()}, {QStringLiteral("screen"), shownScreen}};
     auto fresh = std::make_unique<Version>(url, ui.displaySize(), properties);
     followFiles(fresh->frontEnd);
@@ -161,15 +159,15 @@ void LivePreview::followFiles(const FrontEnd& frontEnd)
         return;
     const QStringList oldFiles = std::exchange(files, frontEnd.files());
     watcher.watchFiles(files); // forgets the changes that it has seen, but not reported
-    const bool isOutdated = QmlHost::Fingerprint::of(FileRecorder::withNeighbors(oldFiles)) != fingerprint;
-    fingerprint = isOutdated ? QByteArray() : QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files));
+    const bool isOutdated = FileRecorder::fingerprint(oldFiles) != fingerprint;
+    fingerprint = isOutdated ? QByteArray() : FileRecorder::fingerprint(files);
     if (isOutdated)
         Q_EMIT outdated();
 }
 
 void LivePreview::reloadIfChanged()
 {
-    if (QmlHost::Fingerprint::of(FileRecorder::withNeighbors(files)) != fingerprint)
+    if (FileRecorder::fingerprint(files) != fingerprint)
         build(true);
 }
 

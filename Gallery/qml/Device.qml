@@ -92,8 +92,12 @@ Blocks.Page {
         boundsBehavior: Flickable.StopAtBounds
         contentWidth: Math.max(width, frame.width)
         contentHeight: Math.max(height, frame.height)
-        ScrollBar.horizontal: Blocks.ScrollHandle {}
-        ScrollBar.vertical: Blocks.ScrollHandle {}
+        ScrollBar.horizontal: Blocks.ScrollHandle {
+            policy: area.contentWidth > area.width ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        }
+        ScrollBar.vertical: Blocks.ScrollHandle {
+            policy: area.contentHeight > area.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        }
 
         Rectangle {
             id: frame

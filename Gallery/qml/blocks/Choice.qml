@@ -18,16 +18,27 @@ ComboBox {
     font.pixelSize: Theme.bodySize
     Accessible.name: label
     ToolTip.text: label
-    ToolTip.visible: hovered
+    ToolTip.visible: hovered && !popup.visible
     popup.width: listWidth
     onActivated: index => chosen(model[index])
 
     delegate: ItemDelegate {
+        id: entry
+
         width: ListView.view.width
-        font.bold: choice.currentIndex === index
-        font.pixelSize: Theme.bodySize
         highlighted: choice.highlightedIndex === index
         text: choice.labelOf(modelData)
+        background: Rectangle {
+            color: entry.down ? Theme.pressed : entry.highlighted ? Theme.selected : "transparent"
+        }
+        contentItem: Text {
+            color: Theme.text
+            elide: Text.ElideRight
+            font.bold: choice.currentIndex === index
+            font.pixelSize: Theme.bodySize
+            textFormat: Text.PlainText
+            text: entry.text
+        }
     }
     indicator: Text {
         x: choice.width - width - Theme.small

@@ -20,17 +20,18 @@ FocusScope {
     Flow {
         id: controlFlow
 
+        readonly property int margin: height > 0 ? Theme.small : 0 // not if every control is hidden
+
         x: Theme.medium
-        y: visible ? Theme.small : 0
+        y: margin
         width: parent.width - 2 * x
-        height: visible ? implicitHeight : 0
-        visible: visibleChildren.length > 0
+        height: implicitHeight
         spacing: Theme.small
     }
     Item {
         id: contentItem
 
-        y: controlFlow.y + controlFlow.height + (controlFlow.visible ? Theme.small : 0)
+        y: controlFlow.height + 2 * controlFlow.margin
         width: parent.width
         height: parent.height - y
     }

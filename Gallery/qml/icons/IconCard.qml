@@ -39,12 +39,13 @@ Rectangle {
         elide: Text.ElideMiddle
         text: card.alias
     }
-    // Asynchronous, so that jumps over many icons stay smooth.
+    // Asynchronous, so that jumps over many icons stay smooth. Its item is there before its colors are.
     Loader {
         x: Theme.small
         anchors.top: title.bottom
         active: card.alias !== ""
         asynchronous: true
+        visible: status === Loader.Ready
         sourceComponent: Grid {
             columns: card.columns
             Repeater {
