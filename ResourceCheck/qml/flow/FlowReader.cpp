@@ -97,7 +97,7 @@ void FlowReader::readMap(int member, const QString& name, const CodeOperation& o
     const Place place = flow.uses.place(operation, frame);
     const int slot = flow.objects.all(flow.objects.made(&operation, &frame, {FlowObject::Array}));
     flow.graph.addText(slot, flow.texts().number(QmlPattern::literal(name, place)));
-    flow.uses.record(member, place, {slot}, true);
+    flow.uses.record(member, operation, frame, {slot}, true);
 }
 
 void FlowReader::readModule(FlowFrame& frame, int name, int target)
