@@ -110,7 +110,7 @@ ExitStatus runCheck(const Options& options)
         return fail(problem);
     QmlNames names;
     QVector<Finding> findings = findFaults(options, &names);
-    addFingerprints(findings);
+    addFingerprints(findings, options.directory);
     if (options.updatesBaseline) {
         const QString writeProblem = Baseline::write(options.baseline, findings);
         return writeProblem.isNull() ? Success : fail(writeProblem);

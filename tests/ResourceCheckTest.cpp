@@ -106,6 +106,11 @@ void ResourceCheckTest::baselineAcceptsOldFindings()
         states.append(result["baselineState"].toString());
     QCOMPARE(states.count("new"), 1);
     QVERIFY(states.count("unchanged") > 1);
+    check("[Day]\nText=a\nBack=b\n", {"--update-baseline"});
+    for (const QString& path : {QString("."), QString("./"), "../" + QFileInfo(directory.path()).fileName()}) {
+        const Outcome same = run("env", {"-C", directory.path(), RESOURCE_CHECK, "--baseline", file, path});
+        QCOMPARE(same.output + same.errors, QByteArray());
+    }
     const Outcome repaired = check("[Day]\nText=#a00\n", {});
     QCOMPARE(repaired.exitStatus, 1);
     QVERIFY2(repaired.errors.contains("a finding is repaired"), repaired.errors);
