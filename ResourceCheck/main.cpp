@@ -10,6 +10,7 @@
 #include "ResourceCheck/output/SourceLines.h"
 #include "ResourceCheck/output/TextOutput.h"
 #include "ResourceCheck/reading/Resources.h"
+#include "ResourceCheck/watch/Watch.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -138,6 +139,8 @@ ExitStatus run(const QStringList& arguments)
     }
     if (!options.question.isEmpty())
         return resolve(options.directory, options.question) ? Success : Failure;
+    if (options.watches)
+        return Watch(arguments, options).run() ? Success : Failure;
     const ExitStatus fixed = options.fixes ? fix(options) : Success;
     return options.isDryRun || fixed != Success ? fixed : runCheck(options);
 }
