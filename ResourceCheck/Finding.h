@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ResourceCheck/Severity.h"
+#include "ResourceCheck/fix/Replacement.h"
 #include "ResourceCheck/reading/Place.h"
 
 #include <QString>
@@ -16,8 +17,9 @@ struct Finding {
     Severity severity;
     Place place;
     QString message;
-    QString fingerprint{};            // set by addFingerprints()
-    std::optional<bool> isAccepted{}; // by the baseline, if there is one
+    QString fingerprint{};               // set by addFingerprints()
+    std::optional<bool> isAccepted{};    // by the baseline, if there is one
+    std::optional<Replacement> repair{}; // set by Patches::addRepairs()
 };
 
 } // namespace ResourceCheck

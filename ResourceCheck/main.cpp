@@ -112,6 +112,8 @@ ExitStatus runCheck(const Options& options)
     QmlNames names;
     QVector<Finding> findings = findFaults(options, &names);
     addFingerprints(findings, options.directory);
+    if (options.format == QLatin1String("sarif"))
+        Patches::addRepairs(findings, Resources(options.directory));
     if (options.updatesBaseline) {
         const QString writeProblem = Baseline::write(options.baseline, findings);
         return writeProblem.isNull() ? Success : fail(writeProblem);

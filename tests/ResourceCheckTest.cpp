@@ -59,7 +59,7 @@ void ResourceCheckTest::fixChangesNothingElse()
     const QTemporaryDir directory;
     const QString texts =
         writeFile(directory.filePath("texts/en.json"),
-                  "{ \"a\": \" x\\n\",\r\n\t\"b\": \"y\\\\n\", \"c\":\"z\\u00a0\",\"c\" : \"z \" }\r\n");
+                  "{ \"a\": \" x\\n\",\r\n\t\"b\": \"😀\\\\n\", \"c\":\"z\\u00a0\",\"c\" : \"z \" }\r\n");
     const QString table = writeFile(directory.filePath("icons/mapping.json"),
                                     "{\"a\": {\"defaultContext\": \"day/Home.svg\", \"night\": \"x\"}}");
     const QString colors = writeFile(directory.filePath("colors.ini"), "A=red\nA=red\nA=blue\nA=blue\n\nA = blue");
@@ -73,10 +73,19 @@ void ResourceCheckTest::fixChangesNothingElse()
     const QByteArray diff = run(RESOURCE_CHECK, {"--fix", "--dry-run", directory.path()}).output;
     QCOMPARE(content(texts) + content(table) + content(colors), before);
     const QString patch = writeFile(directory.filePath(".diff"), diff);
-    const QByteArray fixed = "{ \"a\": \"x\",\r\n\t\"b\": \"y\\\\n\", \"c\":\"z\",\"c\" : \"z\" }\r\n"
+    const QByteArray fixed = "{ \"a\": \"x\",\r\n\t\"b\": \"😀\\\\n\", \"c\":\"z\",\"c\" : \"z\" }\r\n"
                              "{\"a\": {\"defaultContext\": \"day/home.svg\", \"night\": \"x\"}}"
                              "A=red\nA=blue\n\n";
+    const QTemporaryDir other;
+    QCOMPARE(run("cp", {"-r", directory.path(), other.filePath("a b")}).exitStatus, 0);
+    const QByteArray sarif = run(RESOURCE_CHECK, {"--format", "sarif", other.filePath("a b")}).output;
+    const QString log = writeFile(other.filePath("a.sarif"), sarif);
+    for (const char* script : {"tests/validate-sarif.py", "tests/apply-sarif.py"}) {
+        const Outcome outcome = run(script, {log});
+        QVERIFY2(outcome.exitStatus == 0, outcome.errors);
+    }
     run(RESOURCE_CHECK, {"--fix", directory.path()});
+    QCOMPARE(run("diff", {"-r", directory.path(), other.filePath("a b")}).output, QByteArray());
     QCOMPARE(content(texts) + content(table) + content(colors), fixed);
     QCOMPARE(QFile::permissions(texts) & QFile::ReadGroup, QFile::Permissions());
     QVERIFY(QFile::permissions(texts) & QFile::ReadOther);
