@@ -5,6 +5,7 @@
 #include "ResourceCheck/reading/Place.h"
 
 #include <QString>
+#include <QVector>
 
 #include <optional>
 
@@ -17,9 +18,9 @@ struct Finding {
     Severity severity;
     Place place;
     QString message;
-    QString fingerprint{};               // set by addFingerprints()
-    std::optional<bool> isAccepted{};    // by the baseline, if there is one
-    std::optional<Replacement> repair{}; // set by Patches::addRepairs()
+    QString fingerprint{};            // set by addFingerprints()
+    std::optional<bool> isAccepted{}; // by the baseline, if there is one
+    QVector<Replacement> repairs{};   // at most one; set by Patches::addRepairs()
 };
 
 } // namespace ResourceCheck

@@ -47,7 +47,7 @@ void Patches::addRepairs(QVector<Finding>& findings, const Resources& resources)
         path = finding.place.path;
         const std::optional<LineEdit> edit = editOf(finding, *file, resources);
         if (edit)
-            finding.repair = Replacement::of(*edit, file->line(number), file->isLast(number));
+            finding.repairs = {Replacement::of(*edit, file->line(number), file->isLast(number))};
     }
 }
 

@@ -75,8 +75,8 @@ QJsonObject result(const Finding& finding, const QStringList& ruleNames)
                        {QStringLiteral("message"), object("text", finding.message)},
                        {QStringLiteral("partialFingerprints"), object("ruleAndLine/v1", finding.fingerprint)},
                        {QStringLiteral("locations"), QJsonArray{location(finding.place)}}};
-    if (finding.repair)
-        result.insert(QStringLiteral("fixes"), QJsonArray{fix(finding.place.path, *finding.repair)});
+    for (const Replacement& repair : finding.repairs)
+        result.insert(QStringLiteral("fixes"), QJsonArray{fix(finding.place.path, repair)});
     if (finding.isAccepted) {
         const QLatin1String state(*finding.isAccepted ? "unchanged" : "new");
         result.insert(QStringLiteral("baselineState"), state);

@@ -25,6 +25,7 @@ Item {
         return Ui.colors.getColor("Day", name)
     }
     function chosen(page) { return page.translatedTexts["y"] }
+    property var last: { let node = second; while (node.next) node = node.next; return node }
     function pick(a, b) { return page.width > 5 ? a : b }
 
     Rectangle { color: page.guarded("") }
