@@ -1,9 +1,11 @@
 #pragma once
 
 #include "ResourceCheck/Severity.h"
+#include "ResourceCheck/fix/Replacement.h"
 #include "ResourceCheck/reading/Place.h"
 
 #include <QString>
+#include <QVector>
 
 #include <optional>
 
@@ -18,6 +20,7 @@ struct Finding {
     QString message;
     QString fingerprint{};            // set by addFingerprints()
     std::optional<bool> isAccepted{}; // by the baseline, if there is one
+    QVector<Replacement> repairs{};   // at most one; set by Patches::addRepairs()
 };
 
 } // namespace ResourceCheck

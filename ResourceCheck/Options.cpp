@@ -37,6 +37,7 @@ QList<QCommandLineOption> allOptions()
         option("update-baseline", "Write all findings to the file of --baseline."),
         option("fix", "Repair what has one safe repair before the check."),
         option("dry-run", "With --fix: only print the changes as a diff."),
+        option("watch", "Check again after each change and print what has changed."),
         option("format", "The output format: text (the default), json, sarif or gitlab.", "FORMAT"),
         option("summary", "Print only the number of findings of each rule."),
         option("list-rules", "Print all rules with their severities and reasons; as a page with --format markdown."),
@@ -93,7 +94,8 @@ QString Options::parse(const QStringList& arguments)
     QString problem = readInformation(parser);
     if (!problem.isNull() || !information.isEmpty())
         return problem;
-    QStringList problems{readPositional(parser.positionalArguments()), readFormat(parser), readSettings(parser)};
+    QStringList problems{readPositional(parser.positionalArguments()), readFormat(parser), readSettings(parser),
+                         readActions(parser)};
     problems.removeAll(QString());
     if (problems.isEmpty() && parser.isSet(QStringLiteral("print-config")))
         information = configOutput(settings);
@@ -143,11 +145,10 @@ QString Options::readFormat(const QCommandLineParser& parser)
         return QStringLiteral("--format: unknown format \"%1\"; %2")
             .arg(format, Suggestions(formats).advice(format, list));
     }
-    if (!parser.isSet(QStringLiteral("summary")))
-        return QString();
-    if (format != formats.constFirst())
+    const bool isSummary = parser.isSet(QStringLiteral("summary"));
+    if (isSummary && format != formats.constFirst())
         return QStringLiteral("--summary: there is no summary in the format \"%1\"; leave out --format").arg(format);
-    format = QStringLiteral("summary");
+    format = isSummary ? QStringLiteral("summary") : format;
     return QString();
 }
 
@@ -173,19 +174,27 @@ QString Options::readSettings(const QCommandLineParser& parser)
         for (const QString& value : parser.values(name))
             addProblem(name, settings.setOption(name, value));
     }
-    baseline = parser.value(QStringLiteral("baseline"));
-    updatesBaseline = parser.isSet(QStringLiteral("update-baseline"));
-    if (updatesBaseline && baseline.isEmpty())
-        problems.append(QStringLiteral("--update-baseline: the file is missing; add --baseline FILE"));
-    fixes = parser.isSet(QStringLiteral("fix"));
-    isDryRun = parser.isSet(QStringLiteral("dry-run"));
-    if (isDryRun && !fixes)
-        problems.append(QStringLiteral("--dry-run: there is nothing to show; add --fix"));
-    showsUnresolved = parser.isSet(QStringLiteral("show-unresolved"));
     if (parser.isSet(QStringLiteral("werror")))
         settings.warningsAreErrors = true;
     problems.removeAll(QString());
     return problems.value(0);
+}
+
+QString Options::readActions(const QCommandLineParser& parser)
+{
+    baseline = parser.value(QStringLiteral("baseline"));
+    updatesBaseline = parser.isSet(QStringLiteral("update-baseline"));
+    if (updatesBaseline && baseline.isEmpty())
+        return QStringLiteral("--update-baseline: the file is missing; add --baseline FILE");
+    fixes = parser.isSet(QStringLiteral("fix"));
+    isDryRun = parser.isSet(QStringLiteral("dry-run"));
+    if (isDryRun && !fixes)
+        return QStringLiteral("--dry-run: there is nothing to show; add --fix");
+    showsUnresolved = parser.isSet(QStringLiteral("show-unresolved"));
+    watches = parser.isSet(QStringLiteral("watch"));
+    if (watches && (fixes || showsUnresolved || !baseline.isEmpty() || format != QLatin1String("text")))
+        return QStringLiteral("--watch: leave out --baseline, --fix, --format, --show-unresolved and --summary");
+    return QString();
 }
 
 } // namespace ResourceCheck

@@ -26,6 +26,7 @@ struct Options {
     bool updatesBaseline = false;
     bool fixes = false;
     bool isDryRun = false;        // only shows what `fixes` would change
+    bool watches = false;         // check again after each change
     QString format;               // `text`, `summary`, `json`, `sarif` or `gitlab`
     bool showsUnresolved = false; // list the names in QML that depend on values at run time
     Settings settings;
@@ -35,6 +36,7 @@ private:
     QString readPositional(const QStringList& arguments);
     QString readFormat(const QCommandLineParser& parser);
     QString readSettings(const QCommandLineParser& parser);
+    QString readActions(const QCommandLineParser& parser);
 };
 
 } // namespace ResourceCheck

@@ -10,6 +10,7 @@
 #include "ResourceCheck/output/SourceLines.h"
 #include "ResourceCheck/output/TextOutput.h"
 #include "ResourceCheck/reading/Resources.h"
+#include "ResourceCheck/watch/Watch.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -110,7 +111,9 @@ ExitStatus runCheck(const Options& options)
         return fail(problem);
     QmlNames names;
     QVector<Finding> findings = findFaults(options, &names);
-    addFingerprints(findings);
+    addFingerprints(findings, options.directory);
+    if (options.format == QLatin1String("sarif"))
+        Patches::addRepairs(findings, Resources(options.directory));
     if (options.updatesBaseline) {
         const QString writeProblem = Baseline::write(options.baseline, findings);
         return writeProblem.isNull() ? Success : fail(writeProblem);
@@ -138,6 +141,8 @@ ExitStatus run(const QStringList& arguments)
     }
     if (!options.question.isEmpty())
         return resolve(options.directory, options.question) ? Success : Failure;
+    if (options.watches)
+        return Watch(arguments, options).run() ? Success : Failure;
     const ExitStatus fixed = options.fixes ? fix(options) : Success;
     return options.isDryRun || fixed != Success ? fixed : runCheck(options);
 }

@@ -38,6 +38,11 @@ double ratio(const QColor& text, const QColor& background, const QColor& behind)
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
+QString text(double ratio)
+{
+    return QString::number(std::floor(ratio * 100) / 100, 'f', 2) + QStringLiteral(":1");
+}
+
 QString backgroundKey()
 {
     return QStringLiteral("Background");

@@ -15,6 +15,9 @@ constexpr double minimumAAA = 7;       ///< Level AAA.
 /// with what is behind it, and that with white.
 double ratio(const QColor& text, const QColor& background, const QColor& behind = Qt::white);
 
+/// The ratio with two decimals, such as `4.49:1`. Rounded down, so that it does not seem to reach a minimum.
+QString text(double ratio);
+
 /// The key of the color that is behind the other colors of its group, by convention.
 QString backgroundKey();
 

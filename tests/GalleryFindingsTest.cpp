@@ -73,7 +73,7 @@ private Q_SLOTS:
     {
         resources->shell(
             "cd ..; mkdir bin; mv resources 'bin/a b{line}'; cd bin;"
-            "printf '[Day]\\nText = nothing\\n' > 'a b{line}/colors.ini';"
+            "rm 'a b{line}/.tarnis-check.ini'; printf '[Day]\\nText = nothing\\n' > 'a b{line}/colors.ini';"
             "printf '#!/bin/sh\\nprintf \"%%s\\\\n\" \"$@\" > %s/part; mv %s/part %s/written\\n' $PWD $PWD "
             "$PWD > editor; chmod +x editor");
         const QString folder = resources->parent.filePath("bin");

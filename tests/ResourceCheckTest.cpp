@@ -59,7 +59,7 @@ void ResourceCheckTest::fixChangesNothingElse()
     const QTemporaryDir directory;
     const QString texts =
         writeFile(directory.filePath("texts/en.json"),
-                  "{ \"a\": \" x\\n\",\r\n\t\"b\": \"y\\\\n\", \"c\":\"z\\u00a0\",\"c\" : \"z \" }\r\n");
+                  "{ \"a\": \" x\\n\",\r\n\t\"b\": \"😀\\\\n\", \"c\":\"z\\u00a0\",\"c\" : \"z \" }\r\n");
     const QString table = writeFile(directory.filePath("icons/mapping.json"),
                                     "{\"a\": {\"defaultContext\": \"day/Home.svg\", \"night\": \"x\"}}");
     const QString colors = writeFile(directory.filePath("colors.ini"), "A=red\nA=red\nA=blue\nA=blue\n\nA = blue");
@@ -73,10 +73,19 @@ void ResourceCheckTest::fixChangesNothingElse()
     const QByteArray diff = run(RESOURCE_CHECK, {"--fix", "--dry-run", directory.path()}).output;
     QCOMPARE(content(texts) + content(table) + content(colors), before);
     const QString patch = writeFile(directory.filePath(".diff"), diff);
-    const QByteArray fixed = "{ \"a\": \"x\",\r\n\t\"b\": \"y\\\\n\", \"c\":\"z\",\"c\" : \"z\" }\r\n"
+    const QByteArray fixed = "{ \"a\": \"x\",\r\n\t\"b\": \"😀\\\\n\", \"c\":\"z\",\"c\" : \"z\" }\r\n"
                              "{\"a\": {\"defaultContext\": \"day/home.svg\", \"night\": \"x\"}}"
                              "A=red\nA=blue\n\n";
+    const QTemporaryDir other;
+    QCOMPARE(run("cp", {"-r", directory.path(), other.filePath("a b")}).exitStatus, 0);
+    const QByteArray sarif = run(RESOURCE_CHECK, {"--format", "sarif", other.filePath("a b")}).output;
+    const QString log = writeFile(other.filePath("a.sarif"), sarif);
+    for (const char* script : {"tests/validate-sarif.py", "tests/apply-sarif.py"}) {
+        const Outcome outcome = run(script, {log});
+        QVERIFY2(outcome.exitStatus == 0, outcome.errors);
+    }
     run(RESOURCE_CHECK, {"--fix", directory.path()});
+    QCOMPARE(run("diff", {"-r", directory.path(), other.filePath("a b")}).output, QByteArray());
     QCOMPARE(content(texts) + content(table) + content(colors), fixed);
     QCOMPARE(QFile::permissions(texts) & QFile::ReadGroup, QFile::Permissions());
     QVERIFY(QFile::permissions(texts) & QFile::ReadOther);
@@ -106,6 +115,11 @@ void ResourceCheckTest::baselineAcceptsOldFindings()
         states.append(result["baselineState"].toString());
     QCOMPARE(states.count("new"), 1);
     QVERIFY(states.count("unchanged") > 1);
+    check("[Day]\nText=a\nBack=b\n", {"--update-baseline"});
+    for (const QString& path : {QString("."), QString("./"), "../" + QFileInfo(directory.path()).fileName()}) {
+        const Outcome same = run("env", {"-C", directory.path(), RESOURCE_CHECK, "--baseline", file, path});
+        QCOMPARE(same.output + same.errors, QByteArray());
+    }
     const Outcome repaired = check("[Day]\nText=#a00\n", {});
     QCOMPARE(repaired.exitStatus, 1);
     QVERIFY2(repaired.errors.contains("a finding is repaired"), repaired.errors);

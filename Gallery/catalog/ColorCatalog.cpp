@@ -8,7 +8,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Gallery
 {
@@ -93,7 +92,7 @@ double ColorCatalog::contrast(const QString& text, const QString& group, const Q
 
 QString ColorCatalog::ratioText(double ratio) const
 {
-    return QString::number(std::floor(ratio * 100) / 100, 'f', 2) + QStringLiteral(":1");
+    return Contrast::text(ratio);
 }
 
 QString ColorCatalog::verdict(double ratio) const

@@ -37,7 +37,7 @@ QVector<ColorRow> ColorRows::rows() const
         for (const QString& key : keysOf(theme)) {
             all.append(row(theme, key, QString()));
             for (const QString& backgroundKey : backgroundKeysOf(theme, key))
-                all.append(row(theme, key, backgroundKey));
+                all.append(row(groupsWithPair(theme, key, backgroundKey), key, backgroundKey));
             for (const QString& group : theme)
                 appendPairsAcrossGroups(nameOf(group, key), all);
         }
@@ -87,6 +87,18 @@ QStringList ColorRows::backgroundKeysOf(const QStringList& theme, const QString&
                             [&](const QString& group) { return has(group, backgroundKey); });
     };
     found.erase(std::remove_if(found.begin(), found.end(), isNowhere), found.end());
+    return found;
+}
+
+QStringList ColorRows::groupsWithPair(const QStringList& theme, const QString& key, const QString& backgroundKey) const
+{
+    if (backgroundKey == ResourceFormat::Contrast::backgroundKeyOf(key))
+        return theme;
+    QStringList found = theme;
+    const auto isUnpaired = [&](const QString& group) {
+        return !contrastPairs.contains({nameOf(group, key), nameOf(group, backgroundKey)});
+    };
+    found.erase(std::remove_if(found.begin(), found.end(), isUnpaired), found.end());
     return found;
 }
 

@@ -50,8 +50,8 @@ public:
     /// Names of a text color and its background, each as `group/key`.
     using Pairs = QVector<QPair<QString, QString>>;
 
-    /// `pairs` are those that the convention for keys does not give. A pair within one group counts for all of its
-    /// themes. Pairs whose colors do not exist are left out.
+    /// `pairs` are those that the convention for keys does not give. As in the checker, each is about the groups that
+    /// it names and not about their themes. Pairs whose colors do not exist are left out.
     ColorRows(const QVariantList& entries, const Pairs& pairs);
 
     /// In the order of the file.
@@ -61,6 +61,7 @@ private:
     QVector<QStringList> themes() const;
     QStringList keysOf(const QStringList& theme) const;
     QStringList backgroundKeysOf(const QStringList& theme, const QString& key) const;
+    QStringList groupsWithPair(const QStringList& theme, const QString& key, const QString& backgroundKey) const;
     ColorRow row(const QStringList& theme, const QString& key, const QString& backgroundKey) const;
     void appendPairsAcrossGroups(const QString& text, QVector<ColorRow>& rows) const;
     bool has(const QString& group, const QString& key) const;

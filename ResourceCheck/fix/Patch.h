@@ -17,6 +17,9 @@ public:
 
     bool canChange() const { return isText; }
 
+    /// Whether no line break follows the line.
+    bool isLast(int number) const { return number == lines.size(); }
+
     /// The text of a line, with a carriage return at its end if it has one. Shows what earlier edits have changed.
     QString line(int number) const;
 

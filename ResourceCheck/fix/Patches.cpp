@@ -5,6 +5,16 @@
 namespace ResourceCheck
 {
 
+namespace
+{
+
+std::optional<LineEdit> editOf(const Finding& finding, const Patch& patch, const Resources& resources)
+{
+    return patch.canChange() ? Repair::of(finding, patch.line(finding.place.line), resources) : std::nullopt;
+}
+
+} // namespace
+
 QVector<Patch> Patches::of(const QVector<Finding>& findings, const Resources& resources)
 {
     QVector<Patch> patches;
@@ -17,12 +27,28 @@ QVector<Patch> Patches::of(const QVector<Finding>& findings, const Resources& re
         if (patches.isEmpty() || finding.place.path != path)
             patches.append(Patch(finding.place.path));
         path = finding.place.path;
-        Patch& patch = patches.last();
-        const std::optional<LineEdit> edit = Repair::of(finding, patch.line(finding.place.line), resources);
-        if (edit && patch.canChange())
-            patch.add(*edit);
+        const std::optional<LineEdit> edit = editOf(finding, patches.last(), resources);
+        if (edit)
+            patches.last().add(*edit);
     }
     return patches;
+}
+
+void Patches::addRepairs(QVector<Finding>& findings, const Resources& resources)
+{
+    std::optional<Patch> file;
+    QString path;
+    for (Finding& finding : findings) {
+        const int number = finding.place.line;
+        if (number < 1)
+            continue;
+        if (!file || finding.place.path != path)
+            file.emplace(finding.place.path);
+        path = finding.place.path;
+        const std::optional<LineEdit> edit = editOf(finding, *file, resources);
+        if (edit)
+            finding.repairs = {Replacement::of(*edit, file->line(number), file->isLast(number))};
+    }
 }
 
 } // namespace ResourceCheck

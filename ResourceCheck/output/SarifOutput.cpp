@@ -34,11 +34,15 @@ QJsonObject descriptor(const Rule& rule)
             {QStringLiteral("defaultConfiguration"), object("level", level(rule.severity))}};
 }
 
+QJsonObject artifact(const QString& path)
+{
+    const QLatin1String scheme(path.startsWith(QLatin1Char('/')) ? "file://" : "");
+    return object("uri", scheme + QString::fromLatin1(QUrl::toPercentEncoding(path, "/")));
+}
+
 QJsonObject location(const Place& place)
 {
-    const QLatin1String scheme(place.path.startsWith(QLatin1Char('/')) ? "file://" : "");
-    const QString uri = scheme + QString::fromLatin1(QUrl::toPercentEncoding(place.path, "/"));
-    QJsonObject physical{{QStringLiteral("artifactLocation"), object("uri", uri)}};
+    QJsonObject physical{{QStringLiteral("artifactLocation"), artifact(place.path)}};
     QJsonObject region;
     if (place.line > 0)
         region.insert(QStringLiteral("startLine"), place.line);
@@ -49,6 +53,20 @@ QJsonObject location(const Place& place)
     return object("physicalLocation", physical);
 }
 
+QJsonObject fix(const QString& path, const Replacement& repair)
+{
+    const QJsonObject region{{QStringLiteral("startLine"), repair.startLine},
+                             {QStringLiteral("startColumn"), repair.startColumn},
+                             {QStringLiteral("endLine"), repair.endLine},
+                             {QStringLiteral("endColumn"), repair.endColumn}};
+    QJsonObject replacement{{QStringLiteral("deletedRegion"), region}};
+    if (!repair.text.isEmpty())
+        replacement.insert(QStringLiteral("insertedContent"), object("text", repair.text));
+    const QJsonObject change{{QStringLiteral("artifactLocation"), artifact(path)},
+                             {QStringLiteral("replacements"), QJsonArray{replacement}}};
+    return object("artifactChanges", QJsonArray{change});
+}
+
 QJsonObject result(const Finding& finding, const QStringList& ruleNames)
 {
     QJsonObject result{{QStringLiteral("ruleId"), finding.rule},
@@ -57,6 +75,8 @@ QJsonObject result(const Finding& finding, const QStringList& ruleNames)
                        {QStringLiteral("message"), object("text", finding.message)},
                        {QStringLiteral("partialFingerprints"), object("ruleAndLine/v1", finding.fingerprint)},
                        {QStringLiteral("locations"), QJsonArray{location(finding.place)}}};
+    for (const Replacement& repair : finding.repairs)
+        result.insert(QStringLiteral("fixes"), QJsonArray{fix(finding.place.path, repair)});
     if (finding.isAccepted) {
         const QLatin1String state(*finding.isAccepted ? "unchanged" : "new");
         result.insert(QStringLiteral("baselineState"), state);

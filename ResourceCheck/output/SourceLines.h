@@ -21,7 +21,7 @@ private:
 };
 
 /// Identifies each finding by its rule, file and line of text, so that it stays the same if the line moves. Findings in
-/// equal lines are numbered.
-void addFingerprints(QVector<Finding>& findings);
+/// equal lines are numbered. The file is known by its path from the checked directory, however that is written.
+void addFingerprints(QVector<Finding>& findings, const QString& directory);
 
 } // namespace ResourceCheck

@@ -16,6 +16,7 @@ struct QmlUse {
     QVector<QmlPattern> keys;
     /// Whether it can also ask for names that depend on values at run time. A pattern without text stands for them.
     bool isUndeterminable = false;
+    Place end{}; // of the code of the lookup, which begins at `place`
 
     QmlPattern name(const QmlPattern& group, const QmlPattern& key) const;
 };

@@ -43,9 +43,9 @@ void checkPair(const IniFile& file, const IniEntry& text, const IniEntry& backgr
                                          behindColor.isValid() ? behindColor : QColor(Qt::white));
     if (ratio < Contrast::minimumAA) {
         report(file.valuePlace(text),
-               QStringLiteral("%1/%2 on %3/%4: contrast %5:1 is below the WCAG AA minimum of %6:1; make one of the "
+               QStringLiteral("%1/%2 on %3/%4: contrast %5 is below the WCAG AA minimum of %6:1; make one of the "
                               "colors lighter or darker")
-                   .arg(text.group, text.key, background.group, background.key, QString::number(ratio, 'f', 2),
+                   .arg(text.group, text.key, background.group, background.key, Contrast::text(ratio),
                         QString::number(Contrast::minimumAA)));
     }
 }

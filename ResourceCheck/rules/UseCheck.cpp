@@ -2,9 +2,20 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
 
 namespace ResourceCheck
 {
+
+namespace
+{
+
+bool isBefore(const Place& left, const Place& right)
+{
+    return std::tie(left.line, left.column) < std::tie(right.line, right.column);
+}
+
+} // namespace
 
 UseCheck::UseCheck(const QmlUse& checkedUse, const KnownNames& existingNames)
     : use(checkedUse)
@@ -38,8 +49,8 @@ QVector<QmlPattern> UseCheck::relevant(const QVector<QmlPattern>& patterns) cons
 {
     QVector<QmlPattern> list;
     std::copy_if(patterns.begin(), patterns.end(), std::back_inserter(list), [this](const QmlPattern& pattern) {
-        const bool isInCall = pattern.place.path == use.place.path && pattern.place.line == use.place.line
-            && pattern.place.column > use.place.column;
+        const bool isInCall = pattern.place.path == use.place.path && !isBefore(pattern.place, use.place)
+            && isBefore(pattern.place, use.end);
         return !pattern.isLiteral() || pattern.hasText() || isInCall;
     });
     return list;

@@ -67,6 +67,9 @@ public:
     /// Values of paths such as `row.name` that a condition restricts in the code it guards, by the text of the path.
     QVector<QHash<QString, CodeSlot>> guards;
 
+    /// Values of the sides of comparisons, which have been written with the condition.
+    QHash<const void*, CodeSlot> compared;
+
     /// Limits the depth of recursion.
     struct Depth {
         explicit Depth(CodeBuilder& builder);

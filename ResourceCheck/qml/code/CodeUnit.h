@@ -49,7 +49,7 @@ enum class CodeAction {
     Call,      // target = left(arguments) with right as `this`
     New,       // target = new left(arguments)
     Add,       // target = left + right
-    Without,   // target = left without the texts of right
+    Without,   // target = left without the text of right; nothing while right has no value
     Only,      // target = the texts of left that right has, too; those of right if left is unknown
     Import     // target = the member `number` of the module that `import` of the unit names
 };
@@ -67,6 +67,7 @@ struct CodeOperation {
     int number = -1;
     QVector<CodeArgument> arguments;
     CodePosition position;
+    CodePosition end{}; // of a call or of `left[right]`
 };
 
 struct CodeParameter {

@@ -41,13 +41,15 @@ CodeSlot writeIndex(ArrayMemberExpression* member, CodeBuilder& builder)
     CodeOperation operation{CodeAction::GetAt, {}, write(member->base, builder), {}, -1, {}, {}};
     operation.right = write(member->expression, builder);
     operation.position = position(member->expression->firstSourceLocation());
+    operation.end = position(member->rbracketToken);
     return builder.compute(operation);
 }
 
 // The base is evaluated once, because it is also `this`.
-CodeSlot writeCall(CodeAction action, ExpressionNode* base, ArgumentList* arguments, CodeBuilder& builder)
+CodeSlot writeCall(CodeAction action, ExpressionNode* base, ArgumentList* arguments, CodePosition end,
+                   CodeBuilder& builder)
 {
-    CodeOperation operation{action, {}, write(base, builder), {}, -1, {}, position(base->firstSourceLocation())};
+    CodeOperation operation{action, {}, write(base, builder), {}, -1, {}, position(base->firstSourceLocation()), end};
     const CodeOperation access = builder.unit.operations.empty() ? operation : builder.unit.operations.back();
     const bool isMember = access.action == CodeAction::Get || access.action == CodeAction::GetAt;
     if (isMember && operation.left.level == 0 && access.target.index == operation.left.index) {
@@ -92,6 +94,8 @@ CodeSlot writeBinary(BinaryExpression* binary, CodeBuilder& builder)
         return result;
     }
     const CodeSlot right = write(binary->right, builder);
+    builder.compared.insert(binary->left, left);
+    builder.compared.insert(binary->right, right);
     if (binary->op == QSOperator::Add)
         return builder.compute(CodeAction::Add, left, right);
     if (binary->op == QSOperator::InplaceAdd) {
@@ -121,11 +125,11 @@ CodeSlot ExpressionCode::write(ExpressionNode* expression, CodeBuilder& builder)
     if (auto* index = cast<ArrayMemberExpression*>(expression))
         return writeIndex(index, builder);
     if (const auto* call = cast<CallExpression*>(expression))
-        return writeCall(CodeAction::Call, call->base, call->arguments, builder);
+        return writeCall(CodeAction::Call, call->base, call->arguments, position(call->rparenToken), builder);
     if (const auto* object = cast<NewMemberExpression*>(expression))
-        return writeCall(CodeAction::New, object->base, object->arguments, builder);
+        return writeCall(CodeAction::New, object->base, object->arguments, position(object->rparenToken), builder);
     if (const auto* object = cast<NewExpression*>(expression))
-        return writeCall(CodeAction::New, object->expression, nullptr, builder);
+        return writeCall(CodeAction::New, object->expression, nullptr, {}, builder);
     if (const auto* condition = cast<ConditionalExpression*>(expression))
         return writeConditional(condition, builder);
     if (auto* binary = cast<BinaryExpression*>(expression))

@@ -61,20 +61,15 @@ void GuardCode::add(ExpressionNode* condition, bool isTrue)
 
 void GuardCode::addComparison(ExpressionNode* left, ExpressionNode* right, bool isEqual)
 {
-    ExpressionNode* subject = left->kind == Node::Kind_StringLiteral ? right : left;
-    const auto* literal = cast<StringLiteral*>(subject == left ? right : left);
-    if (literal == nullptr)
-        return;
-    const int text = builder.tables.texts.add(literal->value.toString(),
-                                              builder.place(ExpressionCode::position(literal->literalToken)));
-    restrict(subject, isEqual ? CodeAction::Only : CodeAction::Without,
-             builder.compute(CodeAction::Text, {}, {}, text));
+    const CodeAction action = isEqual ? CodeAction::Only : CodeAction::Without;
+    restrict(left, action, builder.compared.value(right));
+    restrict(right, action, builder.compared.value(left));
 }
 
 void GuardCode::restrict(ExpressionNode* subject, CodeAction action, CodeSlot texts)
 {
     const QString path = ExpressionCode::path(subject);
-    if (path.isNull())
+    if (path.isNull() || !texts.isValid())
         return;
     const CodeSlot value = ExpressionCode::write(subject, builder); // which an outer guard may restrict, too
     if (value.isValid())

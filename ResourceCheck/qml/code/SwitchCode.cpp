@@ -23,8 +23,7 @@ void writeCases(ExpressionNode* subject, CaseClauses* clauses, QVector<CodeSlot>
             cases = builder.newSlot(); // of this case and of those that continue into it
         const CodeSlot value = ExpressionCode::write(item->clause->expression, builder);
         builder.copy(value, cases);
-        if (item->clause->expression->kind == Node::Kind_StringLiteral)
-            others.append(value);
+        others.append(value);
         const GuardCode guard(subject, cases, {}, builder);
         StatementList* last = nullptr;
         for (StatementList* part = item->clause->statements; part != nullptr; part = part->next) {

@@ -90,6 +90,7 @@ void Flow::perform(int number, const CodeOperation& operation, FlowFrame& frame)
         return graph.add(target, builtins.sum(left, value(operation.right)));
     case CodeAction::Without:
     case CodeAction::Only:
+        starter.addComparison(right);
         return graph.add(target, members.restricted(left, value(operation.right), operation.action));
     default:
         performSpread(operation, frame);

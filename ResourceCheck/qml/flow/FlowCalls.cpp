@@ -40,15 +40,16 @@ void FlowCalls::perform(const CodeOperation& operation, FlowFrame& frame, int ta
                   frame.slot(operation.target)};
     for (const CodeArgument& argument : operation.arguments) {
         const int slot = argument.slot.isValid() ? frame.slot(argument.slot) : -1;
-        if (!argument.isSpread) {
+        if (argument.isSpread && slot >= 0)
+            flow.lists.addArguments(slot, call);
+        else if (!call.isComplete && slot >= 0)
+            flow.graph.connect(slot, scratch(call, 0));
+        else
             call.arguments.push_back(slot);
-            continue;
-        }
-        call.isComplete = false;
-        call.arguments.push_back(scratch(call, 0));
-        flow.graph.watch(slot, task);
-        flow.members.elements(flow.graph.value(slot), scratch(call, 0));
+        call.isComplete = call.isComplete && !argument.isSpread;
     }
+    if (!call.isComplete)
+        call.arguments.push_back(scratch(call, 0));
     callAll(frame.slot(operation.left), call);
 }
 
@@ -99,18 +100,26 @@ void FlowCalls::callObject(int object, const FlowCall& call, int element)
                          call.target);
         break;
     case FlowObject::Method:
-        flow.uses.record(callee.name, flow.uses.place(*call.operation, *call.frame), call.arguments, call.isComplete);
+        flow.uses.record(callee.name, *call.operation, *call.frame, call.arguments, call.isComplete);
         flow.graph.addUnknown(call.target);
         break;
     case FlowObject::Signal:
         emitSignal(callee, call);
         break;
     case FlowObject::Builtin:
-        flow.builtins.perform(callee.path, call);
+        callBuiltin(callee.path, call);
         break;
     default:
         flow.graph.addUnknown(call.target);
     }
+}
+
+void FlowCalls::callBuiltin(const QString& name, FlowCall call)
+{
+    const bool hasRest = !call.isComplete && !call.arguments.empty() && call.arguments.back() >= 0;
+    if (hasRest && flow.graph.value(call.arguments.back()).isEmpty())
+        call.arguments.pop_back();
+    flow.builtins.perform(name, call);
 }
 
 void FlowCalls::emitSignal(const FlowObject& signal, const FlowCall& call)

@@ -17,7 +17,7 @@ struct FlowCall {
     int task;
     int thisSlot; // -1 without `this`
     std::vector<int> arguments;
-    bool isComplete; // no argument is the content of an array
+    bool isComplete; // otherwise the last argument is what arrays contain, without a known index
     int target;
 };
 
@@ -47,6 +47,7 @@ public:
 
 private:
     void callObject(int object, const FlowCall& call, int element);
+    void callBuiltin(const QString& name, FlowCall call);
     void emitSignal(const FlowObject& signal, const FlowCall& call);
     void construct(int object, const FlowCall& call);
 

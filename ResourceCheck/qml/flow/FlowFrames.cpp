@@ -68,9 +68,8 @@ void FlowFrames::call(int function, const Caller& caller, int thisSlot, const st
         const auto first = static_cast<size_t>(index);
         if (parameter.isRest) {
             const int rest = flow.objects.named(FlowObject::Array, QString(), frame.firstSlot);
+            passRest(rest, arguments, first, isComplete);
             flow.graph.addObject(slot, rest);
-            for (size_t argument = first; argument < arguments.size(); ++argument)
-                flow.graph.connect(arguments[argument], flow.objects.any(rest));
         } else if (first < arguments.size() && arguments[first] >= 0) {
             flow.graph.connect(arguments[first], slot);
         } else if (!isComplete && !arguments.empty() && arguments.back() >= 0) {
@@ -79,6 +78,18 @@ void FlowFrames::call(int function, const Caller& caller, int thisSlot, const st
     }
     if (result >= 0)
         flow.graph.connect(frame.firstSlot + object.unit->resultSlot, result);
+}
+
+void FlowFrames::passRest(int array, const std::vector<int>& arguments, size_t first, bool isComplete)
+{
+    const size_t count = arguments.size() - (isComplete || arguments.empty() ? 0 : 1);
+    for (size_t index = first; index < count; ++index) {
+        const QString name = QString::number(static_cast<int>(index - first));
+        if (arguments[index] >= 0)
+            flow.graph.connect(arguments[index], flow.objects.member(array, flow.number(name)));
+    }
+    if (count < arguments.size() && arguments.back() >= 0)
+        flow.graph.connect(arguments.back(), flow.objects.any(array));
 }
 
 void FlowFrames::callUnknown(int function)

@@ -28,8 +28,8 @@ public:
         int element = -1; // the object that a function such as Array.map() passes
     };
 
-    /// Calls the function with the slots as arguments. They are all that is passed if `isComplete`. A slot that is -1
-    /// is left out.
+    /// Calls the function with the slots as arguments. They are all that is passed if `isComplete`; otherwise the
+    /// last slot has the arguments whose index is not known. A slot that is -1 is left out.
     void call(int function, const Caller& caller, int thisSlot, const std::vector<int>& arguments, bool isComplete,
               int result);
 
@@ -59,6 +59,7 @@ public:
 private:
     FlowFrame& frameOfCall(const FlowObject& function, int number, const Caller& caller, size_t argumentCount,
                            bool isComplete);
+    void passRest(int array, const std::vector<int>& arguments, size_t first, bool isComplete);
 
     Flow& flow;
     std::deque<FlowFrame> frames;

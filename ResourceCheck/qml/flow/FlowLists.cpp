@@ -2,6 +2,8 @@
 
 #include "ResourceCheck/qml/flow/Flow.h"
 
+#include <algorithm>
+
 namespace ResourceCheck
 {
 
@@ -97,6 +99,49 @@ void FlowLists::join(const FlowCall& call)
         }
         flow.graph.add(call.target, whole);
     }
+}
+
+// The index of elements behind other elements is not known: they are in the last slot.
+void FlowLists::addArguments(int slot, FlowCall& call)
+{
+    const int rest = flow.calls.scratch(call, 0);
+    flow.graph.watch(slot, call.task);
+    flow.graph.watch(rest, call.task);
+    const FlowValue arrays = flow.graph.value(slot);
+    FlowValue others = arrays;
+    others.objects.clear();
+    int count = 0;
+    for (const int object : arrays.objects) {
+        const int own = call.isComplete ? elementCount(object) : -1;
+        count = std::max(count, own);
+        if (own < 0) {
+            others.addObject(object);
+        } else {
+            flow.graph.watch(flow.objects.all(object), call.task);
+            flow.graph.connect(flow.objects.any(object), rest);
+        }
+    }
+    flow.members.elements(others, rest);
+    for (int index = 0; index < count; ++index) {
+        call.arguments.push_back(flow.calls.scratch(call, -1 - index));
+        flow.graph.connect(rest, call.arguments.back());
+        for (const int object : arrays.objects) {
+            const QHash<int, int>& members = flow.objects.at(object).members;
+            const auto member = members.constFind(flow.number(QString::number(index)));
+            if (member != members.constEnd())
+                flow.graph.connect(*member, call.arguments.back());
+        }
+    }
+}
+
+// -1 if it is not an array or has members other than its first elements.
+int FlowLists::elementCount(int object)
+{
+    const FlowObject& array = flow.objects.at(object);
+    int count = 0;
+    while (array.members.contains(flow.number(QString::number(count))))
+        ++count;
+    return array.kind == FlowObject::Array && count == array.members.size() ? count : -1;
 }
 
 } // namespace ResourceCheck

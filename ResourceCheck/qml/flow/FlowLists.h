@@ -27,7 +27,12 @@ public:
     void split(const FlowCall& call);
     void join(const FlowCall& call);
 
+    /// Adds the elements of the arrays in the slot to the arguments of the call, by index.
+    void addArguments(int slot, FlowCall& call);
+
 private:
+    int elementCount(int object);
+
     Flow& flow;
 };
 

@@ -41,8 +41,7 @@ void FlowMembers::getAt(const FlowValue& base, const FlowValue& key, int target,
     for (const int object : objects) {
         const FlowObject::Kind kind = flow.objects.at(object).kind;
         if (kind == FlowObject::Map) {
-            const Place place = flow.uses.place(operation, *frame);
-            flow.uses.record(flow.objects.at(object).name, place, {frame->slot(operation.right)}, true);
+            flow.uses.record(flow.objects.at(object).name, operation, *frame, {frame->slot(operation.right)}, true);
             flow.graph.addUnknown(target);
             continue;
         }
@@ -142,14 +141,29 @@ void FlowMembers::spread(const FlowValue& base, int object)
     }
 }
 
-FlowValue FlowMembers::restricted(const FlowValue& value, const FlowValue& texts, CodeAction action)
+// A value that can be one of several texts may still differ from each of them.
+bool FlowMembers::isKnown(const FlowValue& value, CodeAction action) const
+{
+    const auto isPossible = [&](int number) {
+        const QmlPattern& pattern = flow.texts().pattern(number);
+        return pattern.isLiteral()
+            && (action == CodeAction::Only || pattern.text() == flow.texts().pattern(value.texts.front()).text());
+    };
+    return !value.isUnknown && value.objects.empty() && std::all_of(value.texts.begin(), value.texts.end(), isPossible);
+}
+
+FlowValue FlowMembers::restricted(const FlowValue& value, const FlowValue& other, CodeAction action)
 {
     const auto isListed = [&](int text) {
         const QString own = flow.texts().pattern(text).text();
-        return std::any_of(texts.texts.begin(), texts.texts.end(),
-                           [&](int other) { return flow.texts().pattern(other).text() == own; });
+        return std::any_of(other.texts.begin(), other.texts.end(),
+                           [&](int number) { return flow.texts().pattern(number).text() == own; });
     };
     FlowValue result;
+    if (other.isEmpty())
+        return result;
+    if (!isKnown(other, action))
+        return value;
     result.objects = value.objects;
     result.isWide = value.isWide;
     result.isUnknown = value.isUnknown && action == CodeAction::Without;
@@ -159,7 +173,7 @@ FlowValue FlowMembers::restricted(const FlowValue& value, const FlowValue& texts
             result.texts.push_back(text);
     }
     if (value.isUnknown && action == CodeAction::Only)
-        result.add(texts, flow.texts());
+        result.add(other, flow.texts());
     return result;
 }
 

@@ -39,10 +39,12 @@ public:
     /// Copies all members of the objects of base to the object.
     void spread(const FlowValue& base, int object);
 
-    /// The value without the texts of the other one (`Without`), or with them alone (`Only`).
-    FlowValue restricted(const FlowValue& value, const FlowValue& texts, CodeAction action);
+    /// The value if it differs from the other one (`Without`) or equals it (`Only`). Nothing if the other one is empty.
+    FlowValue restricted(const FlowValue& value, const FlowValue& other, CodeAction action);
 
 private:
+    bool isKnown(const FlowValue& value, CodeAction action) const;
+
     Flow& flow;
 };
 

@@ -52,8 +52,7 @@ void FlowReader::read(int object, int name, int target, const CodeOperation& ope
         flow.graph.addUnknown(target);
         break;
     case FlowObject::Builtin:
-        flow.graph.addObject(target,
-                             flow.objects.named(FlowObject::Builtin, owner.path + QLatin1Char('.') + flow.name(name)));
+        readBuiltin(owner.path, flow.name(name), target);
         break;
     default: // functions, components and signals
         flow.graph.addObject(target, flow.objects.named(FlowObject::Builtin, flow.name(name)));
@@ -97,7 +96,16 @@ void FlowReader::readMap(int member, const QString& name, const CodeOperation& o
     const Place place = flow.uses.place(operation, frame);
     const int slot = flow.objects.all(flow.objects.made(&operation, &frame, {FlowObject::Array}));
     flow.graph.addText(slot, flow.texts().number(QmlPattern::literal(name, place)));
-    flow.uses.record(member, place, {slot}, true);
+    flow.uses.record(member, operation, frame, {slot}, true);
+}
+
+// In a loop, `node = node.next` would give longer and longer names.
+void FlowReader::readBuiltin(const QString& path, const QString& name, int target)
+{
+    if (path.contains(QLatin1Char('.')))
+        flow.graph.addUnknown(target);
+    else
+        flow.graph.addObject(target, flow.objects.named(FlowObject::Builtin, path + QLatin1Char('.') + name));
 }
 
 void FlowReader::readModule(FlowFrame& frame, int name, int target)

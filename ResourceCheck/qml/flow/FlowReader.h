@@ -28,6 +28,7 @@ private:
     void readHandlers(const QString& path, const QString& name, int target, const CodeOperation& operation,
                       const FlowFrame* frame);
     void readMap(int member, const QString& name, const CodeOperation& operation, const FlowFrame& frame);
+    void readBuiltin(const QString& path, const QString& name, int target);
     void readModule(FlowFrame& frame, int name, int target);
 
     Flow& flow;

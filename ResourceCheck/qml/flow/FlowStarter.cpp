@@ -49,7 +49,19 @@ void FlowStarter::startFiles()
 
 bool FlowStarter::startUnreached()
 {
-    return startUnreachedObjects() || startUnreachedFile();
+    return startUnreachedObjects() || startUnreachedFile() || startComparisons();
+}
+
+bool FlowStarter::startComparisons()
+{
+    bool isAny = false;
+    for (const int slot : qAsConst(compared)) {
+        if (flow.graph.value(slot).isEmpty()) {
+            flow.graph.addUnknown(slot);
+            isAny = true;
+        }
+    }
+    return isAny;
 }
 
 bool FlowStarter::startUnreachedFile()

@@ -20,19 +20,25 @@ public:
     void startFiles();
 
     /// Starts code that nothing in the front end starts: signal handlers, functions for others, other components.
-    /// Nothing is known about its parameters. Returns whether there was any.
+    /// Nothing is known about its parameters. At last, nothing is known about what the front end compares with if no
+    /// value reaches it. Returns whether there was any.
     bool startUnreached();
 
     /// Performs an operation that never changes, or adds the task for any other.
     void start(const CodeOperation& operation, FlowFrame& frame);
 
+    /// A value is compared with the slot.
+    void addComparison(int slot) { compared.insert(slot); }
+
 private:
     void startValue(const CodeOperation& operation, FlowFrame& frame);
     bool startUnreachedFile();
     bool startUnreachedObjects();
+    bool startComparisons();
 
     Flow& flow;
     int firstUnseen = 0; // of the objects
+    QSet<int> compared;
 };
 
 } // namespace ResourceCheck

@@ -4,6 +4,7 @@
 #include "ResourceCheck/qml/flow/Flow.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ResourceCheck
 {
@@ -29,23 +30,28 @@ QString keyOf(const QmlUse& use)
 
 } // namespace
 
-void FlowUses::record(int member, const Place& place, const std::vector<int>& arguments, bool isComplete)
+void FlowUses::record(int member, const CodeOperation& operation, const FlowFrame& frame, std::vector<int> arguments,
+                      bool isComplete)
 {
+    const HandlerMember& called = Handlers::members().at(member);
+    const auto count = static_cast<size_t>(called.arguments.size());
+    if (!isComplete && arguments.size() > count)
+        arguments.pop_back();
+    const Place place = this->place(operation, frame);
     QString key = textOf(place) + QStringLiteral(" %1").arg(member);
     for (const int argument : arguments)
         key += QStringLiteral(" %1").arg(argument);
     if (known.contains(key))
         return;
     known.insert(key);
-    const HandlerMember& called = Handlers::members().at(member);
-    const auto count = static_cast<size_t>(called.arguments.size());
     if (isComplete && arguments.size() < count) {
         addFault(place,
                  QStringLiteral("%1() needs the arguments %2; add the missing ones")
                      .arg(called.name, called.arguments.join(QStringLiteral(", "))));
         return;
     }
-    records.push_back({member, place, arguments, isComplete});
+    records.push_back(
+        {member, place, {place.path, operation.end.line, operation.end.column}, std::move(arguments), isComplete});
 }
 
 void FlowUses::recordUnknownMember(const QString& owner, const QString& name, const Place& place)
@@ -129,13 +135,14 @@ QVector<QmlUse> FlowUses::uses() const
         if (!isReached(record) && reached.contains(textOf(record.place)))
             continue;
         const ResourceKind kind = Handlers::members().at(record.member).kind;
-        QmlUse use{kind, record.place, {QmlPattern::anything(record.place)}, {}, false};
+        QmlUse use{kind, record.place, {QmlPattern::anything(record.place)}, {}, false, record.end};
         if (hasGroupArgument(kind))
             use.groups = patterns(record, 0, use.isUndeterminable);
         use.keys = patterns(record, hasGroupArgument(kind) ? 1 : 0, use.isUndeterminable);
         add(use);
         if (kind == ResourceKind::Icon && record.arguments.size() > 1) {
-            QmlUse context{ResourceKind::IconContext, record.place, {QmlPattern::anything(record.place)}, {}, false};
+            QmlUse context{
+                ResourceKind::IconContext, record.place, {QmlPattern::anything(record.place)}, {}, false, record.end};
             context.keys = patterns(record, 1, context.isUndeterminable);
             add(context);
         }

@@ -21,8 +21,10 @@ public:
     {
     }
 
-    /// A lookup in the member of a handler with the values of the slots. They are all arguments if `isComplete`.
-    void record(int member, const Place& place, const std::vector<int>& arguments, bool isComplete);
+    /// The operation looks the values of the slots up in the member of a handler. They are all arguments if
+    /// `isComplete`. Otherwise the last slot has the arguments whose index is not known.
+    void record(int member, const CodeOperation& operation, const FlowFrame& frame, std::vector<int> arguments,
+                bool isComplete);
 
     /// QML uses a member that the handler, or the object that leads to handlers, does not have.
     void recordUnknownMember(const QString& owner, const QString& name, const Place& place);
@@ -39,6 +41,7 @@ private:
     struct Record {
         int member;
         Place place;
+        Place end;
         std::vector<int> arguments;
         bool isComplete;
     };

@@ -9,5 +9,9 @@ Item {
     property var e: Ui.icons.getIconPath() // unknown needs the arguments
     property var f: Ui.colors.getColor("", "Text") // unknown empty name
     property var g: Ui.colors.getColor("Day", "") // unknown empty name
+    property var i: Ui.colors.getColor(
+        "", "Text") // unknown empty name
+    property var j: Ui.texts.translatedTexts[
+        ""] // unknown empty name
     property var h: Ui.language + Ui.ready + Ui.colors.objectName
 }

@@ -14,10 +14,16 @@ Item {
         return page.color(...all)
     }
 
+    function direct(...all) {
+        return Ui.colors.getColor(...all)
+    }
+
     Rectangle { color: page.color() }
     Rectangle { color: page.color(page.table.warm) }
     Rectangle { color: page.color(page.table["cold"].key) }
-    Rectangle { color: page.spread("Surfac") } // unknown Day/Surfac
+    Rectangle { color: page.spread("Sur" + "fac") } // unknown Day/Surfac
+    Rectangle { color: page.direct(...["Nigth", "Al" + "arm"]) } // unknown Nigth/Alarm
+    Rectangle { color: { let key = "Text"; key = "Tex"; return key !== Names.either(1) ? Ui.colors.getColor("Day", key) : "" } } // unknown Day/Tex
     Rectangle { color: page.color(Names.accent) }
     Rectangle { color: page.color(Names.pick(1)) }
     Rectangle { color: Theme.dark("Focusss") } // unknown Night/Focusss

@@ -3,6 +3,10 @@
 
 var accent = "Acccentt" // unknown Day/Acccentt
 
+function either(index) {
+    return index > 3 ? "Text" : "Tex"
+}
+
 function pick(index) {
     if (index > 3)
         return More.other
