@@ -39,8 +39,8 @@ test_all() {
 sum() { grep -ahoP "^\d+(?= $2\$)" "$logs/damage/$1"-*.log | awk '{ sum += $1 } END { print sum }'; }
 highest() { grep -ahoP "\d+(?= $2)" "$logs/damage/$1"-*.log | sort -n | tail -n 1; }
 
+test_all release "$PWD/build/release/ResourceCheck/tarnis-resource-check"
 test_all dev
-test_all release build/release/ResourceCheck/tarnis-resource-check
 tested=$(cat "$logs"/damage/dev-*.log | grep -ac '^PASS.*([0-9][0-9]*)$')
 time=$(highest release 'ms of processor time')
 memory=$(highest release 'MB$')

@@ -62,6 +62,7 @@ public:
             if (!(entries.value(other.key()) == *other))
                 remove(QFile::encodeName(directory) + '/' + other.key());
         }
+        QDir().mkpath(directory);
         for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
             if (!(others.value(entry.key()) == *entry))
                 write(QFile::encodeName(directory) + '/' + entry.key(), *entry);
@@ -142,7 +143,7 @@ private:
     void removeFolder()
     {
         const QByteArray path = anyFile();
-        const QByteArray folder = path.left(path.lastIndexOf('/'));
+        const QByteArray folder = path.contains('/') ? path.left(path.lastIndexOf('/')) : path;
         for (const QByteArray& other : entries.keys()) {
             if (other.startsWith(folder))
                 entries.remove(other);
