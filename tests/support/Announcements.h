@@ -10,7 +10,7 @@
 namespace Tests
 {
 
-/// The errors that the checker has reported in a resource directory.
+/// What the checker has reported in a resource directory.
 class Announcements
 {
 public:
@@ -20,23 +20,23 @@ public:
     {
         for (const QJsonValue finding : findings) {
             const QString path = finding["path"].toString();
-            if (finding["severity"].toString() == "error")
-                errors.append({finding["rule"].toString(), path, finding["message"].toString(), canonical(path)});
+            list.append({finding["rule"].toString(), path, finding["message"].toString(), canonical(path),
+                         finding["severity"].toString() == "error"});
         }
     }
 
-    /// The files in which one of the rules has found an error.
+    /// The files in which one of the rules has found something.
     QSet<QString> filesWith(const QStringList& rules) const
     {
         QSet<QString> files;
-        for (const Error& error : errors) {
-            if (rules.contains(error.rule))
-                files.insert(error.canonicalPath);
+        for (const Found& entry : list) {
+            if (rules.contains(entry.rule))
+                files.insert(entry.canonicalPath);
         }
         return files;
     }
 
-    /// The records that are not announced. Each needs an error of one of its rules; several of the same file need as
+    /// The records that are not announced. Each needs a finding of one of its rules; several of the same file need as
     /// many, except of an icon, which Qt complains of more than once.
     QStringList missing(const QVector<DeviceRecord>& records) const
     {
@@ -51,10 +51,10 @@ public:
         for (auto group = groups.begin(); group != groups.end(); ++group) {
             const auto& [rules, file] = group.key();
             const QString canonicalFile = canonical(file);
-            const auto announces = [&, &names = rules, &path = file](const Error& error) {
-                return names.contains(error.rule) && isAbout(error, path, canonicalFile);
+            const auto announces = [&, &names = rules, &path = file](const Found& entry) {
+                return names.contains(entry.rule) && isAbout(entry, path, canonicalFile);
             };
-            const auto count = std::count_if(errors.begin(), errors.end(), announces);
+            const auto count = std::count_if(list.begin(), list.end(), announces);
             const bool isIcon = file.startsWith(root + "/icons/");
             if (count >= (isIcon ? 1 : group->size()))
                 continue;
@@ -66,11 +66,12 @@ public:
     }
 
 private:
-    struct Error {
+    struct Found {
         QString rule;
         QString path;
         QString message;
         QString canonicalPath;
+        bool isError;
     };
 
     static QString canonical(const QString& path) { return QFileInfo(path).canonicalFilePath(); }
@@ -94,37 +95,39 @@ private:
     }
 
     // `canonicalFile` is empty if there is no such file.
-    bool isAbout(const Error& error, const QString& file, const QString& canonicalFile) const
+    bool isAbout(const Found& entry, const QString& file, const QString& canonicalFile) const
     {
         const QString icon = '"' + file.mid(root.size() + 7) + '"'; // as in the mapping table
-        return file.isEmpty() || error.path == file || error.message.contains(icon)
-            || (!canonicalFile.isEmpty() && error.canonicalPath == canonicalFile);
+        return file.isEmpty() || entry.path == file || entry.message.contains(icon)
+            || (!canonicalFile.isEmpty() && entry.canonicalPath == canonicalFile);
     }
 
     // Names in files that cannot be read are not reported one by one.
     bool isUnreadable(const QString& file) const
     {
-        return !file.isEmpty() && std::any_of(errors.begin(), errors.end(), [&](const Error& error) {
-            return error.path == file && (error.rule == "file-unreadable" || error.rule == "icon-json");
+        return !file.isEmpty() && std::any_of(list.begin(), list.end(), [&](const Found& entry) {
+            return entry.path == file && (entry.rule == "file-unreadable" || entry.rule == "icon-json");
         });
     }
 
-    // The service names each file that it does not offer. There must be an error of each, or of a file in it.
+    // The service names each file that it does not offer. There must be an error in each, or of a file in it.
     bool isAnswerAnnounced(const QString& text) const
     {
         static const QRegularExpression named("(/[^;]*?)(?=: | does not | is not | contains )");
         int count = 0;
         for (auto match = named.globalMatch(text); match.hasNext(); ++count) {
             const QString file = match.next().captured(1);
-            const auto announces = [&file](const Error& error) { return (error.path + '/').startsWith(file + '/'); };
-            if (std::none_of(errors.begin(), errors.end(), announces))
+            const auto announces = [&file](const Found& entry) {
+                return entry.isError && (entry.path + '/').startsWith(file + '/');
+            };
+            if (std::none_of(list.begin(), list.end(), announces))
                 return false;
         }
         return count > 0;
     }
 
     const QString root;
-    QVector<Error> errors;
+    QVector<Found> list;
 };
 
 } // namespace Tests

@@ -18,7 +18,7 @@ public:
 
     QByteArray applied(const QByteArray& content)
     {
-        static constexpr QByteArray (ContentDamage::*kinds[])(QByteArray){
+        static constexpr QByteArray (ContentDamage::*kinds[])(const QByteArray&){
             &ContentDamage::truncated,     &ContentDamage::withFlippedBits, &ContentDamage::withMovedBlock,
             &ContentDamage::withLostBytes, &ContentDamage::withExtraToken,  &ContentDamage::withOtherCase,
             &ContentDamage::withWrongType, &ContentDamage::withHugeNumber,  &ContentDamage::nested,
@@ -35,10 +35,11 @@ public:
 private:
     int positionIn(const QByteArray& content) { return random.bounded(content.size() + 1); }
 
-    QByteArray truncated(QByteArray content) { return content.left(positionIn(content)); }
+    QByteArray truncated(const QByteArray& content) { return content.left(positionIn(content)); }
 
-    QByteArray withFlippedBits(QByteArray content)
+    QByteArray withFlippedBits(const QByteArray& original)
     {
+        QByteArray content = original;
         for (int count = content.isEmpty() ? 0 : random.bounded(1, 9); count > 0; --count) {
             const int position = random.bounded(content.size());
             content[position] = static_cast<char>(content.at(position) ^ (1 << random.bounded(8)));
@@ -46,19 +47,25 @@ private:
         return content;
     }
 
-    QByteArray withMovedBlock(QByteArray content)
+    QByteArray withMovedBlock(const QByteArray& original)
     {
+        QByteArray content = original;
         const int position = positionIn(content);
         const QByteArray block = content.mid(position, random.bounded(1, 200));
         content.remove(position, block.size());
         return content.insert(positionIn(content), block);
     }
 
-    QByteArray withLostBytes(QByteArray content) { return content.remove(positionIn(content), random.bounded(1, 9)); }
+    QByteArray withLostBytes(const QByteArray& content)
+    {
+        const int position = positionIn(content);
+        return QByteArray(content).remove(position, random.bounded(1, 9));
+    }
 
     // A line once more, or a token that means something in one of the formats.
-    QByteArray withExtraToken(QByteArray content)
+    QByteArray withExtraToken(const QByteArray& original)
     {
+        QByteArray content = original;
         static const QByteArrayList tokens{"[",    "]",   "=",     "\"",      "{",   "}",     ":",  ",",  "\n",
                                            "\xff", "\\",  "null",  "7",       "../", "<",     ">",  "/>", "&",
                                            "&x;",  "[ ]", "\"a\"", "Family=", "a=1", "[Day]", "%1", ";",  "url(#a)"};
@@ -68,8 +75,9 @@ private:
         return random.bounded(4) == 0 ? content.insert(line, copy) : content.insert(position, oneOf(tokens));
     }
 
-    QByteArray withOtherCase(QByteArray content)
+    QByteArray withOtherCase(const QByteArray& original)
     {
+        QByteArray content = original;
         const int position = positionIn(content);
         return content.replace(position, 1, content.mid(position, 1).toUpper());
     }
@@ -88,13 +96,13 @@ private:
     }
 
     // Replaces a value of a JSON object, an attribute or the value of an INI entry.
-    QByteArray withWrongType(QByteArray content)
+    QByteArray withWrongType(const QByteArray& content)
     {
         static const QByteArrayList values{"null", "7", "true", "[]", "{}", "{\"a\": {}}", "[\"x\"]", "\"\"", "", "px"};
         return replaced(content, "(?<=: )(?:\"[^\"\n]*\"|\\{[^{}]*\\})|(?<==)(?:\"[^\"\n]*\"|[^\n]+)", values);
     }
 
-    QByteArray withHugeNumber(QByteArray content)
+    QByteArray withHugeNumber(const QByteArray& content)
     {
         static const QByteArrayList numbers{
             "99999999999999999999", "1e999", "-1", "0", "nan", "inf", "2147483648", "1e-320", "0x10",
@@ -102,8 +110,9 @@ private:
         return replaced(content, "\\d+(\\.\\d+)?", numbers);
     }
 
-    QByteArray nested(QByteArray content)
+    QByteArray nested(const QByteArray& original)
     {
+        QByteArray content = original;
         static const QVector<QByteArrayList> brackets{{"[", "]"}, {"{\"a\":", "}"}, {"<g>", "</g>"}, {"(", ")"},
                                                       {"[", ""},  {"<g>", ""},      {"<defs>", ""}};
         static const QVector<int> depths{10, 500, 1024, 1025, 3000, 30000};
@@ -113,10 +122,12 @@ private:
         return content.insert(place, pair.at(0).repeated(depth) + "1" + pair.at(1).repeated(depth));
     }
 
-    QByteArray encoded(QByteArray content)
+    QByteArray encoded(const QByteArray& original)
     {
-        static const QByteArrayList strange{"\xef\xbb\xbf", "\xc3\x28",     "\xed\xa0\x80",     QByteArray(1, '\0'),
-                                            "\xe2\x80\xae", "\xe2\x80\xa8", "\xf4\x90\x80\x80", "\xef\xbf\xbf"};
+        QByteArray content = original;
+        static const QByteArrayList strange{
+            "\xef\xbb\xbf", "\xc3\x28",         "\xed\xa0\x80", QByteArray(1, '\0'), QString(QChar(0x202e)).toUtf8(),
+            "\xe2\x80\xa8", "\xf4\x90\x80\x80", "\xef\xbf\xbf"};
         const QString text = QString::fromUtf8(content);
         switch (random.bounded(6)) {
         case 0:
@@ -128,11 +139,12 @@ private:
         case 3:
             return content.replace("\n", random.bounded(2) == 0 ? "\r\n" : "\r");
         }
-        return content.insert(positionIn(content), oneOf(strange));
+        const int position = positionIn(content);
+        return content.insert(position, oneOf(strange));
     }
 
     // At most 256 KiB.
-    QByteArray repeated(QByteArray content)
+    QByteArray repeated(const QByteArray& content)
     {
         static const QVector<int> counts{2, 20, 1000};
         return content.repeated(qMin(oneOf(counts), (1 << 18) / qMax(1, content.size()) + 1));

@@ -101,7 +101,7 @@ private:
     QByteArray anyFile()
     {
         static const QByteArrayList beginnings{"colors", "fonts", "dimensions/", "icons/mapping", "icons/", "texts/"};
-        const QByteArray beginning = beginnings.at(random.bounded(beginnings.size()));
+        const QByteArray& beginning = beginnings.at(random.bounded(beginnings.size()));
         QByteArrayList candidates;
         for (const QByteArray& path : entries.keys()) {
             if (path.startsWith(beginning))
