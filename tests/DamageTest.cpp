@@ -130,7 +130,7 @@ private Q_SLOTS:
 // process, are the default.
 int main(int argc, char* argv[])
 {
-    qputenv("QTEST_FUNCTION_TIMEOUT", "30000"); // for one directory, in milliseconds
+    qputenv("QTEST_FUNCTION_TIMEOUT", "120000"); // for one directory, in milliseconds
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     Tests::DamageTest test(arguments.value(1, "1").toUInt(), arguments.value(2, "500").toUInt(),
