@@ -82,12 +82,12 @@ private:
         constexpr int enough = 300;
         const QString text = record.size() > 2 * enough ? record.left(enough) + record.right(enough) : record;
         static const QVector<QPair<QRegularExpression, QStringList>> patterns = [] {
-            QVector<QPair<QRegularExpression, QStringList>> list;
+            QVector<QPair<QRegularExpression, QStringList>> all;
             for (const ResourceCheck::Record& known : ResourceCheck::allRecords()) {
                 if (!known.rules.isEmpty())
-                    list.append({QRegularExpression(known.pattern()), known.rules});
+                    all.append({QRegularExpression(known.pattern()), known.rules});
             }
-            return list;
+            return all;
         }();
         const auto found = std::find_if(patterns.begin(), patterns.end(),
                                         [&text](const auto& pattern) { return pattern.first.match(text).hasMatch(); });
