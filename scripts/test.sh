@@ -10,7 +10,7 @@ if [ "$preset" = --valgrind ]; then
   ./scripts/install-dependencies.sh --valgrind
   ./scripts/build.sh valgrind TarnisLibrary
   # All test programs except those of the tools and of the QML module: Qt Quick Test leaks its engine and its log.
-  mapfile -t tests < <(ctest --test-dir build/valgrind -N -E '^(Gallery|ResourceCheck|Parity|Rules|Svg|QmlAnalysis|QmlRewrite|QmlModule)' | grep -oP '^ *Test +#\d+: \K[A-Za-z]+Test$')
+  mapfile -t tests < <(ctest --test-dir build/valgrind -N -E '^(Gallery|ResourceCheck|Damage|Rules|Svg|QmlAnalysis|QmlRewrite|QmlModule)' | grep -oP '^ *Test +#\d+: \K[A-Za-z]+Test$')
   ./scripts/build.sh valgrind "${tests[@]}"
   for test in "${tests[@]}"; do
     echo "== $test"

@@ -1,4 +1,5 @@
 #include "ResourceCheck/Checker.h"
+#include "ResourceCheck/rules/Record.h"
 #include "ResourceCheck/rules/Rule.h"
 #include "tests/support/TestProcess.h"
 
@@ -89,6 +90,7 @@ private Q_SLOTS:
     void findings_data();
     void findings();
     void everyFolderIsOfARule();
+    void everyDocumentedRecordHasARuleOrAReason();
 };
 
 void RulesTest::findings_data()
@@ -115,6 +117,26 @@ void RulesTest::everyFolderIsOfARule()
 {
     for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
         QVERIFY2(findRule(name) != nullptr, qPrintable(name));
+}
+
+void RulesTest::everyDocumentedRecordHasARuleOrAReason()
+{
+    QFile file("docs/log-records.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString page = QString::fromUtf8(file.readAll()).replace("PATH", "x.json");
+    QStringList documented;
+    for (const QString& section : {page.section("\n## ", 1, 1), page.section("\n## ", 3, 3)}) {
+        for (const QString& line : section.split('\n').filter(QRegularExpression("^\\| `")))
+            documented.append(line.section('`', 1, 1));
+    }
+    QVERIFY(documented.size() > 20);
+    for (const Record& record : allRecords()) {
+        QVERIFY2(record.rules.isEmpty() != record.reason.isEmpty(), qPrintable(record.text));
+        for (const QString& rule : record.rules)
+            QVERIFY2(findRule(rule) != nullptr, qPrintable(rule));
+        documented = documented.filter(QRegularExpression("^(?!.*" + record.pattern() + ")"));
+    }
+    QVERIFY2(documented.isEmpty(), qPrintable(documented.join('\n')));
 }
 
 } // namespace Tests

@@ -4,6 +4,7 @@
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
 
+#include <QImageReader>
 #include <QSet>
 
 namespace ResourceCheck
@@ -38,6 +39,14 @@ QVector<TextFile> readTexts(const QFileInfoList& files)
     return texts;
 }
 
+// Qt looks at the content of a file whose suffix it does not know.
+bool canBeSvg(const QFileInfo& file)
+{
+    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
+    const QByteArray suffix = file.suffix().toLower().toLatin1();
+    return suffix == "svg" || !formats.contains(suffix);
+}
+
 // Several icons can be links to the same file.
 QVector<SvgFault> readSvgFiles(const IconDirectory& icons, const QVector<IconPath>& paths)
 {
@@ -46,8 +55,7 @@ QVector<SvgFault> readSvgFiles(const IconDirectory& icons, const QVector<IconPat
     for (const IconPath& path : paths) {
         const QFileInfo file = icons.file(path.path);
         const QString identity = file.canonicalFilePath();
-        if (file.suffix().compare(QLatin1String("svg"), Qt::CaseInsensitive) != 0 || !icons.contains(path.path)
-            || seen.contains(identity))
+        if (!canBeSvg(file) || !icons.contains(path.path) || seen.contains(identity))
             continue;
         seen.insert(identity);
         faults += SvgReader(file.filePath()).faults();

@@ -81,6 +81,7 @@ QVector<Record> qtRecords()
         announced(qt, "TypeError: Cannot call method '…' of undefined", QStringLiteral("qml-unknown-text")),
         announced(qt, "QFont::setPointSizeF: Point size <= 0 (…), must be greater than 0",
                   QStringLiteral("font-size-invalid qml-unknown-font")),
+        announced(qt, "QPen::setWidthF: Setting a pen width that is out of range", QStringLiteral("svg-ignored")),
         announced(qt, "QML Image: Cannot open: …", QStringLiteral("icon-missing-file icon-outside icon-case")),
         announced(qt, "QML Image: Error decoding: …", QStringLiteral("icon-unreadable svg-syntax")),
         announced(qt, "qt.svg: …", QStringLiteral("svg-image svg-path svg-reference svg-structure svg-syntax")),

@@ -4,6 +4,8 @@
 #include "ResourceCheck/svg/SvgPath.h"
 #include "ResourceCheck/svg/SvgSize.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace ResourceCheck
@@ -21,6 +23,15 @@ bool isScript(const QXmlStreamAttribute& attribute)
 {
     return attribute.qualifiedName().startsWith(QLatin1String("on"))
         || attribute.value().trimmed().startsWith(QLatin1String("javascript:"), Qt::CaseInsensitive);
+}
+
+// Qt does not look at the unit.
+bool isPenWidth(const QString& value)
+{
+    static const QRegularExpression number(QStringLiteral("^[+-]?[0-9.]+(?:[eE][+-]?[0-9]+)?"));
+    constexpr double limit = 1 << 15;
+    const double width = number.match(value.trimmed()).captured().toDouble();
+    return width >= 0 && width < limit;
 }
 
 } // namespace
@@ -135,6 +146,10 @@ void SvgElementCheck::checkProperties(const QVector<SvgProperty>& properties)
         if ((isPaint || property.name == QLatin1String("stop-color")) && !SvgVocabulary::isPaint(property.value)) {
             addOnce(Kind::Ignored, property.value,
                     QStringLiteral("Qt does not know the color \"%1\"; use #rrggbb").arg(property.value));
+        }
+        if (property.name == QLatin1String("stroke-width") && !isPenWidth(property.value)) {
+            addOnce(Kind::Ignored, property.name + property.value,
+                    QStringLiteral("Qt ignores stroke-width=\"%1\"; use a number from 0 to 32767").arg(property.value));
         }
         if (SvgVocabulary::isIgnoredProperty(property.name, property.value)) {
             addOnce(Kind::Ignored, property.name,

@@ -9,6 +9,7 @@ namespace
 {
 
 constexpr int maximumPoints = 0x7fff;
+constexpr int longestNumber = 255;
 
 // The numbers that one execution of the command needs; -1 for anything else.
 int numbersOf(QChar command)
@@ -69,27 +70,36 @@ private:
     bool isDigit() const { return current() >= QLatin1Char('0') && current() <= QLatin1Char('9'); }
     bool isAnyOf(const char* characters) const { return !isAtEnd() && QLatin1String(characters).contains(current()); }
 
+    bool skipOneOf(const char* characters)
+    {
+        const bool isFound = isAnyOf(characters) && position < numberEnd;
+        position += isFound ? 1 : 0;
+        return isFound;
+    }
+
     void skipDigits()
     {
-        while (isDigit())
+        while (isDigit() && position < numberEnd)
             ++position;
     }
 
+    // Like Qt, which takes the rest of a longer number for the next one.
     void skipNumber()
     {
-        position += isAnyOf("+-") ? 1 : 0;
+        numberEnd = position + longestNumber + (isAnyOf("+") ? 1 : 0);
+        skipOneOf("+-");
         skipDigits();
-        position += isAnyOf(".") ? 1 : 0;
+        skipOneOf(".");
         skipDigits();
-        if (isAnyOf("eE")) {
-            ++position;
-            position += isAnyOf("+-") ? 1 : 0;
+        if (skipOneOf("eE")) {
+            skipOneOf("+-");
             skipDigits();
         }
     }
 
     QStringView text;
     int position = 0;
+    int numberEnd = 0;
 };
 
 } // namespace
