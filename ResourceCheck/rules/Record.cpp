@@ -27,7 +27,8 @@ QVector<Record> libraryRecords()
     const QString ofService = QStringLiteral("depends on the service and the bus");
     const QString ofScreen = QStringLiteral("depends on the screen");
     return {
-        announced(library, "No color for key \"…\" in group \"…\" !", QStringLiteral("qml-unknown-color")),
+        announced(library, "No color for key \"…\" in group \"…\" !",
+                  QStringLiteral("color-missing qml-unknown-color")),
         announced(library, "Unknown font group: \"…\"", QStringLiteral("font-family-missing qml-unknown-font")),
         announced(library, "No font size for key \"…\" in font group \"…\"",
                   QStringLiteral("font-size-missing qml-unknown-font")),
@@ -75,7 +76,8 @@ QVector<Record> platformRecords()
 QVector<Record> qtRecords()
 {
     return {
-        announced(qt, "Unable to assign [undefined] to …", QStringLiteral("qml-unknown-dimension qml-unknown-text")),
+        announced(qt, "Unable to assign [undefined] to …",
+                  QStringLiteral("dimension-missing qml-unknown-dimension qml-unknown-text")),
         announced(qt, "TypeError: Property '…' of object … is not a function", QStringLiteral("qml-call")),
         announced(qt, "Error: Insufficient arguments", QStringLiteral("qml-call")),
         announced(qt, "TypeError: Cannot call method '…' of undefined", QStringLiteral("qml-unknown-text")),
