@@ -6,9 +6,10 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 # Each command prints its figures in the last line.
-parts=(damage)
+parts=(damage recall)
 declare -A commands=(
   [damage]='./scripts/proof/damage.sh'
+  [recall]='./scripts/proof/recall.sh'
 )
 page=docs/proof.md
 
