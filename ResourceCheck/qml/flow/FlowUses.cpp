@@ -35,23 +35,23 @@ void FlowUses::record(int member, const CodeOperation& operation, const FlowFram
 {
     const HandlerMember& called = Handlers::members().at(member);
     const auto count = static_cast<size_t>(called.arguments.size());
-    if (!isComplete && arguments.size() > count)
-        arguments.pop_back();
     const Place place = this->place(operation, frame);
-    QString key = textOf(place) + QStringLiteral(" %1").arg(member);
-    for (const int argument : arguments)
-        key += QStringLiteral(" %1").arg(argument);
-    if (known.contains(key))
-        return;
-    known.insert(key);
     if (isComplete && arguments.size() < count) {
         addFault(place,
                  QStringLiteral("%1() needs the arguments %2; add the missing ones")
                      .arg(called.name, called.arguments.join(QStringLiteral(", "))));
         return;
     }
-    records.push_back(
-        {member, place, {place.path, operation.end.line, operation.end.column}, std::move(arguments), isComplete});
+    // The arguments of an incomplete call become more while the analysis runs. Their last slot stays.
+    QString key = textOf(place) + QStringLiteral(" %1").arg(member);
+    const bool isKnownByLast = !isComplete && !arguments.empty();
+    for (auto argument = isKnownByLast ? arguments.end() - 1 : arguments.begin(); argument != arguments.end();
+         ++argument)
+        key += QStringLiteral(" %1").arg(*argument);
+    if (!isComplete && arguments.size() > count)
+        arguments.pop_back();
+    const Place end{place.path, operation.end.line, operation.end.column};
+    records.insert_or_assign(key, Record{member, place, end, std::move(arguments), isComplete});
 }
 
 void FlowUses::recordUnknownMember(const QString& owner, const QString& name, const Place& place)
@@ -118,7 +118,7 @@ bool FlowUses::isReached(const Record& record) const
 QVector<QmlUse> FlowUses::uses() const
 {
     QSet<QString> reached;
-    for (const Record& record : records) {
+    for (const auto& [key, record] : records) {
         if (isReached(record))
             reached.insert(textOf(record.place));
     }
@@ -130,7 +130,7 @@ QVector<QmlUse> FlowUses::uses() const
             list.append(use);
         listed.insert(key);
     };
-    for (const Record& record : records) {
+    for (const auto& [key, record] : records) {
         // A condition keeps all values of this caller away from the lookup.
         if (!isReached(record) && reached.contains(textOf(record.place)))
             continue;

@@ -6,6 +6,9 @@
 
 #include <QSet>
 
+#include <map>
+#include <vector>
+
 namespace ResourceCheck
 {
 
@@ -51,8 +54,8 @@ private:
     QVector<QmlPattern> patterns(const Record& record, size_t argument, bool& isUndeterminable) const;
 
     Flow& flow;
-    std::vector<Record> records;
-    QSet<QString> known;
+    std::map<QString, Record> records; // by the call and its arguments
+    QSet<QString> known;               // faults
     QVector<QmlFault> faultList;
 };
 

@@ -17,12 +17,17 @@ Item {
     function direct(...all) {
         return Ui.colors.getColor(...all)
     }
+    function pair(group, key) {
+        return [group, key]
+    }
 
     Rectangle { color: page.color() }
     Rectangle { color: page.color(page.table.warm) }
     Rectangle { color: page.color(page.table["cold"].key) }
     Rectangle { color: page.spread("Sur" + "fac") } // unknown Day/Surfac
     Rectangle { color: page.direct(...["Nigth", "Al" + "arm"]) } // unknown Nigth/Alarm
+    Rectangle { color: Ui.colors.getColor(...page.pair("Day", "Text")) }
+    Rectangle { color: Ui.colors.getColor(...page.pair("Day", "Surfaace")) } // unknown Day/Surfaace
     Rectangle { color: { let key = "Text"; key = "Tex"; return key !== Names.either(1) ? Ui.colors.getColor("Day", key) : "" } } // unknown Day/Tex
     Rectangle { color: page.color(Names.accent) }
     Rectangle { color: page.color(Names.pick(1)) }
