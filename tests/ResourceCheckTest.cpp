@@ -87,7 +87,7 @@ void ResourceCheckTest::fixChangesNothingElse()
     run(RESOURCE_CHECK, {"--fix", directory.path()});
     QCOMPARE(run("diff", {"-r", directory.path(), other.filePath("a b")}).output, QByteArray());
     QCOMPARE(content(texts) + content(table) + content(colors), fixed);
-    QCOMPARE(QFile::permissions(texts) & QFile::ReadGroup, QFile::Permissions());
+    QVERIFY(!QFile::permissions(texts).testFlag(QFile::ReadGroup));
     QVERIFY(QFile::permissions(texts) & QFile::ReadOther);
     QVERIFY2(diff.contains("-A=red\n") && diff.contains("day/home.svg") && diff.contains("+{ \"a\": \"x\",\r\n"), diff);
     QCOMPARE(run(RESOURCE_CHECK, {"--fix", "--dry-run", directory.path()}).output, QByteArray());
