@@ -6,6 +6,8 @@
 
 #include <QSet>
 
+#include <optional>
+
 namespace ResourceCheck
 {
 
@@ -50,11 +52,12 @@ void checkUses(const Project& project, ResourceKind kind, const Report& report)
     }
 }
 
-Rule::Check unknown(const QVector<ResourceKind>& kinds)
+Rule::Check unknown(ResourceKind kind, std::optional<ResourceKind> otherKind = {})
 {
-    return [kinds](const Project& project, const Report& report) {
-        for (const ResourceKind kind : kinds)
-            checkUses(project, kind, report);
+    return [kind, otherKind](const Project& project, const Report& report) {
+        checkUses(project, kind, report);
+        if (otherKind)
+            checkUses(project, *otherKind, report);
     };
 }
 
@@ -71,22 +74,22 @@ QVector<Rule> qmlRules()
          QStringLiteral("Correct the name of the handler or its member, or pass the missing arguments.")},
         {QStringLiteral("qml-unknown-color"), Severity::Error,
          QStringLiteral("The lookup of an unknown color returns an empty text, which QML shows as black."),
-         unknown({ResourceKind::Color}), QStringLiteral("Correct the names or add the color to `colors.ini`.")},
+         unknown(ResourceKind::Color), QStringLiteral("Correct the names or add the color to `colors.ini`.")},
         {QStringLiteral("qml-unknown-font"), Severity::Error,
          QStringLiteral("The lookup of an unknown font returns no family or the size 0, and Qt uses its own font."),
-         unknown({ResourceKind::FontGroup, ResourceKind::FontSize}),
+         unknown(ResourceKind::FontGroup, ResourceKind::FontSize),
          QStringLiteral("Correct the names or add the font group or size to `fonts.ini`.")},
         {QStringLiteral("qml-unknown-dimension"), Severity::Error,
          QStringLiteral("The lookup of an unknown dimension returns undefined, and the element has no size."),
-         unknown({ResourceKind::Dimension}),
+         unknown(ResourceKind::Dimension),
          QStringLiteral("Correct the name or add the dimension to the file of each display.")},
         {QStringLiteral("qml-unknown-icon"), Severity::Error,
          QStringLiteral("An unknown icon is not shown; for an unknown context the default icon is shown."),
-         unknown({ResourceKind::Icon, ResourceKind::IconContext}),
+         unknown(ResourceKind::Icon, ResourceKind::IconContext),
          QStringLiteral("Correct the name or add the alias or context to a mapping table.")},
         {QStringLiteral("qml-unknown-text"), Severity::Error,
          QStringLiteral("The lookup of an unknown text returns undefined, and nothing or that word is shown."),
-         unknown({ResourceKind::Text}), QStringLiteral("Correct the name or add the text to `en.json`.")},
+         unknown(ResourceKind::Text), QStringLiteral("Correct the name or add the text to `en.json`.")},
     };
 }
 
