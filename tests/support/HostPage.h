@@ -76,7 +76,7 @@ public:
     /// not possible; null if it is.
     QString becomeMountPoint() const
     {
-        if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+        if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) != 0)
             return QString("cannot create a mount namespace: ") + strerror(errno);
         shell("cd ..; mv resources stored; mkdir resources");
         mount();
