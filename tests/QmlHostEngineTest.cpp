@@ -116,7 +116,7 @@ private Q_SLOTS:
         QCOMPARE(destroyed, 5);
     }
 
-    void newPrimaryScreenGetsNewFontsAndDimensions()
+    void primaryScreenIsFollowedAlsoWhenThereIsNoneForAWhile()
     {
         std::optional<TarnisUi> ui(std::in_place, TarnisUi::directory(resources->path));
         ui->publish();
@@ -132,13 +132,31 @@ private Q_SLOTS:
         QCOMPARE(QGuiApplication::primaryScreen()->size(), QSize(800, 480));
         QVERIFY(page["fonts"].value<QObject*>() != fonts && page["dimensions"].value<QObject*>() != dimensions);
         QCOMPARE(page["height"].toInt(), heightOn("800x480"));
+        std::unique_ptr<PrimaryScreen, Removal> other(new PrimaryScreen({1280, 800}));
+        QCOMPARE(page["height"].toInt(), heightOn("1280x800"));
+        other.reset();
+        QCOMPARE(page["height"].toInt(), heightOn("800x480"));
+        screen.reset();
+        QWindowSystemInterface::handleScreenRemoved(QGuiApplication::primaryScreen()->handle());
+        QVERIFY(QGuiApplication::primaryScreen() == nullptr);
+        QCOMPARE(page["height"].toInt(), heightOn("800x480"));
+        screen.reset(new PrimaryScreen({1024, 600}));
+        QCOMPARE(page["height"].toInt(), heightOn("1024x600"));
         ui.reset();
-        screen.reset(); // the engine lives longer than the host
+        other.reset(new PrimaryScreen({800, 480})); // the engine lives longer than the host
         QCOMPARE(page["family"].toString(), QString("Inter"));
     }
 };
 
 } // namespace Tests
 
-QTEST_MAIN(Tests::QmlHostEngineTest)
+int main(int argc, char* argv[])
+{
+    // Never deleted: the platform would remove its own screen once more.
+    static const auto* const application = new QGuiApplication(argc, argv);
+    Q_UNUSED(application)
+    Tests::QmlHostEngineTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "QmlHostEngineTest.moc"

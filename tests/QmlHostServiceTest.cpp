@@ -1,6 +1,7 @@
 // The host library with the real service.
 
 #include "QmlHost/TarnisUi.h"
+#include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
 #include "tests/support/HostPage.h"
 
 #include <atomic>
@@ -185,9 +186,23 @@ private Q_SLOTS:
         startModule();
         TarnisUi ui;
         QVERIFY(ui.waitUntilReady(10000));
+        const TarnisIconProviderDBusConnector oldConnector;
+        QVERIFY(oldConnector.isDBusInterfaceValid());
         bus.daemon.process().kill();
         QTRY_VERIFY_WITH_TIMEOUT(ui.problem().contains("is lost, and this process cannot reconnect"), 10000);
         QVERIFY(ui.isReady());
+        const QString address = qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS").section(',', 0, 0);
+        const TestProcess restartedBus("dbus-daemon",
+                                       {"--config-file", TEST_BUS_CONFIGURATION, "--nofork", "--nopidfile",
+                                        "--print-address", "--address=" + address});
+        QVERIFY(restartedBus.firstLine().startsWith(address));
+        const TarnisIconProviderDBusConnector newConnector;
+        for (const TarnisIconProviderDBusConnector* connector : {&oldConnector, &newConnector}) {
+            QVERIFY(!connector->isDBusInterfaceValid());
+            const QString message = connector->getInvalidDBusInterfaceMessage();
+            QVERIFY2(message.contains(QRegularExpression("^No connection to the D-Bus \\(.+\\): .")),
+                     qPrintable(message));
+        }
         TarnisUi later;
         QTRY_VERIFY_WITH_TIMEOUT(later.problem().contains("no connection to the D-Bus ("), 10000);
     }

@@ -68,6 +68,8 @@ QString DBusConnectorBase::getInvalidDBusInterfaceMessage() const
     const QDBusConnection connection = dBusInterface->connection();
     if (connection.isConnected())
         return QString();
+    // Qt has no error for a connection that existed: the bus has ended or restarted.
+    const QString error = connection.lastError().message();
     return QStringLiteral("No connection to the D-Bus (%1): %2")
-        .arg(connection.name(), connection.lastError().message());
+        .arg(connection.name(), error.isEmpty() ? QStringLiteral("The connection is lost") : error);
 }
