@@ -10,6 +10,7 @@
 
 #include <QGuiApplication>
 
+#include <atomic>
 #include <future>
 #include <linux/capability.h>
 #include <sched.h>
@@ -33,9 +34,6 @@ class TroubleTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QDir::setCurrent(directory.path()); }
-
-    // Ends a test that waits for a FIFO or reads a device.
-    void init() { alarm(60); }
 
     void fileTroubleLeavesNoOldAnswersAndOneRecordEach_data()
     {
@@ -78,21 +76,24 @@ private Q_SLOTS:
     void fileThatIsReplacedAllTheTimeIsGoodOrNothing()
     {
         shell("mkfifo fifo; printf '[G]\\nn=0' > 0");
-        auto owner = std::async(std::launch::async, [] {
+        std::atomic_bool isEnough = false;
+        auto owner = std::async(std::launch::async, [&isEnough] {
             const char* targets[] = {"0", "fifo", "0", ".", "0", "none"};
             bool isRight = true;
-            for (int turn = 0; turn < 20000; ++turn)
+            for (int turn = 0; !isEnough; ++turn)
                 isRight &= symlink(targets[turn % 6], "next") == 0 && rename("next", "x.ini") == 0;
             return isRight;
         });
+        const auto end = qScopeGuard([&isEnough] { isEnough = true; });
         LogRecorder log;
-        int times[2] = {};
-        while (owner.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+        // Counts outcomes, because a busy machine may run only one of the two threads for a long time.
+        for (int times[2] = {}; times[0] < 1000 || times[1] < 1000;) {
             const bool isGood = IniFileManager("x.ini", nullptr).getValueString("G", "n", "") == "0";
             QCOMPARE(log.take().filter("Cannot read \"x.ini\": ").size(), isGood ? 0 : 1);
             ++times[isGood];
         }
-        QVERIFY(owner.get() && times[0] > 0 && times[1] > 0);
+        isEnough = true;
+        QVERIFY(owner.get());
     }
 };
 
