@@ -1,6 +1,7 @@
 #include "Gallery/Screenshots.h"
 
 #include "Gallery/Session.h"
+#include "Gallery/frontend/FrontEndView.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -39,6 +40,14 @@ bool isLoading(const QQuickItem& item)
     return std::any_of(children.begin(), children.end(), [](const QQuickItem* child) { return isLoading(*child); });
 }
 
+void drawFrontEnd(QQuickItem& item)
+{
+    if (auto* const view = qobject_cast<FrontEndView*>(&item))
+        view->finishDrawing();
+    for (QQuickItem* child : item.childItems())
+        drawFrontEnd(*child);
+}
+
 } // namespace
 
 Screenshots::Screenshots(QQuickWindow& quickWindow, Session& gallerySession)
@@ -49,6 +58,7 @@ Screenshots::Screenshots(QQuickWindow& quickWindow, Session& gallerySession)
 
 bool Screenshots::take(const QString& path)
 {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // former pages, which would draw, too
     const QDeadlineTimer deadline(mostMilliseconds);
     QDeadlineTimer settled(settleMilliseconds);
     while (!settled.hasExpired() && !deadline.hasExpired()) {
@@ -58,6 +68,7 @@ bool Screenshots::take(const QString& path)
     }
     if (isChanging())
         incompletePictures.append(path);
+    drawFrontEnd(*window.contentItem());
     return window.isExposed() && window.grabWindow().save(path);
 }
 

@@ -45,6 +45,14 @@ void FrontEndView::setPreview(LivePreview* livePreview)
     follow();
 }
 
+void FrontEndView::finishDrawing()
+{
+    if (!delay.isActive())
+        return;
+    delay.stop();
+    draw();
+}
+
 void FrontEndView::paint(QPainter* painter)
 {
     painter->setRenderHint(QPainter::SmoothPixmapTransform);

@@ -26,6 +26,9 @@ public:
     LivePreview* preview() const;
     void setPreview(LivePreview* livePreview);
 
+    /// Draws at once what would be drawn with the next frame.
+    void finishDrawing();
+
     void paint(QPainter* painter) override;
 
 Q_SIGNALS:
