@@ -34,20 +34,21 @@ QStringList faultsOfTable(const Directory& directory)
 QStringList faultsOfMissingParts(const Answers& answers, const Directory& directory)
 {
     const PublishedResources resources(directory);
-    QString problems[5];
+    QString problems[4];
     QStringList faults;
     if (!answers.colorFile.isAnswered())
         resources.colorFile(problems[0]);
     if (!answers.fontFile.isAnswered())
         resources.fontFile(problems[1]);
-    if (!answers.displaySizes.isAnswered())
-        resources.displaySizes(problems[2]);
     if (!answers.icons.isAnswered()) {
-        resources.iconFolder(problems[3]);
+        resources.iconFolder(problems[2]);
         faults = faultsOfTable(directory);
         if (faults.isEmpty())
-            resources.mappingTable(QString(), problems[4]);
+            resources.mappingTable(QString(), problems[3]);
     }
+    QStringList leftOut; // also if other display sizes are answered
+    resources.displaySizes(leftOut);
+    faults += leftOut;
     std::copy_if(std::begin(problems), std::end(problems), std::back_inserter(faults),
                  [](const QString& problem) { return !problem.isNull(); });
     return faults;

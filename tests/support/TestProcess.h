@@ -26,11 +26,11 @@ struct Child : QProcess {
     void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
 };
 
-/// Starts a program and waits for the first line that it prints. Kills it in the end.
+/// Starts a program, whose errors go to a file, and waits for the first line that it prints. Kills it in the end.
 struct TestProcess {
-    TestProcess(const QString& program, const QStringList& arguments)
+    TestProcess(const QString& program, const QStringList& arguments, const QString& errorFile = QProcess::nullDevice())
     {
-        child.setStandardErrorFile(QProcess::nullDevice());
+        child.setStandardErrorFile(errorFile);
         child.launch(program, arguments);
         while (!child.canReadLine() && child.waitForReadyRead(10000)) { }
         line = QString::fromUtf8(child.readLine()).trimmed();
