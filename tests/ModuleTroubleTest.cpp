@@ -137,6 +137,18 @@ private Q_SLOTS:
         QCOMPARE(errors.readAll(), QByteArray("tarnis-module: lost the connection to the D-Bus\n"));
     }
 
+    // With a long path, an error that quotes it would be too large for the bus, which would cut the connection.
+    void nameAsLargeAsTheBusAllowsStopsNothing()
+    {
+        service.stopModule();
+        const QString directory = service.path(QString(200, 'd'));
+        service.shell("mkdir -p " + directory + "/icons; cp colors.ini " + directory);
+        TestProcess module(TARNIS_MODULE, {"--resources", directory});
+        constexpr int size = 32 * 1024 * 1024 - 220; // with the rest of the message
+        QVERIFY(service.connectors.icons.getIconResourcesMappingTable(QString(size, 'x')).isNull());
+        QCOMPARE(service.connectors.resources.getColorIniFilePath(), directory + "/colors.ini");
+    }
+
     void fullLogStopsNothing()
     {
         service.stopModule();

@@ -12,6 +12,11 @@ namespace Tests
 
 /// The module with a small resource directory, on the bus of the test.
 struct ModuleFixture {
+    explicit ModuleFixture(const QString& busConfiguration = TEST_BUS_CONFIGURATION)
+        : bus(busConfiguration)
+    {
+    }
+
     /// What the getters give, in their order.
     QStringList ask() const
     {

@@ -61,10 +61,13 @@ private:
 /// A bus that is the system bus of this process and its children. Qt connects a process to the system bus only once, so
 /// create one for the whole test.
 struct PrivateBus {
-    PrivateBus() { qputenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine().toUtf8()); }
+    explicit PrivateBus(const QString& configuration = TEST_BUS_CONFIGURATION)
+        : daemon("dbus-daemon", {"--config-file", configuration, "--nofork", "--nopidfile", "--print-address"})
+    {
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine().toUtf8());
+    }
 
-    TestProcess daemon{"dbus-daemon",
-                       {"--config-file", TEST_BUS_CONFIGURATION, "--nofork", "--nopidfile", "--print-address"}};
+    TestProcess daemon;
 };
 
 /// Runs a program to its end, or kills it after 30 s (then, and after a crash, the exit status is -1).
