@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstring>
@@ -41,11 +42,10 @@ QString Descriptor::problem() const
 // Without links. Empty if the kernel does not tell.
 QByteArray Descriptor::location() const
 {
-    QByteArray path(PATH_MAX, '\0');
+    std::array<char, PATH_MAX> path;
     const QByteArray link = "/proc/self/fd/" + QByteArray::number(descriptor);
-    const ssize_t size = descriptor < 0 ? -1 : readlink(link.constData(), path.data(), PATH_MAX);
-    path.truncate(size < 0 ? 0 : static_cast<int>(size));
-    return path;
+    const ssize_t size = descriptor < 0 ? -1 : readlink(link.constData(), path.data(), path.size());
+    return size < 0 ? QByteArray() : QByteArray(path.data(), static_cast<int>(size));
 }
 
 QString Descriptor::problemOfPlace(const QString& directory) const

@@ -107,7 +107,7 @@ QByteArray RegularFile::readAllIn(const QString& directory, const QString& path,
 
 QString RegularFile::problemIn(const QString& directory, const QString& path)
 {
-    const QString problem = problemOfPath(path);
+    QString problem = problemOfPath(path);
     if (!problem.isNull())
         return problem;
     const Descriptor file = Descriptor::ofFile(path);
