@@ -81,7 +81,7 @@ private:
     static void awaitAnswers(Caller& caller)
     {
         QElapsedTimer silence;
-        for (silence.start(); caller.owed > 0 && !silence.hasExpired(30000);) {
+        for (silence.start(); caller.owed > 0 && !silence.hasExpired(60000);) {
             dbus_connection_read_write(caller.bus, 100);
             while (DBusMessage* message = dbus_connection_pop_message(caller.bus)) {
                 caller.owed -= dbus_message_get_reply_serial(message) != 0 ? 1 : 0;
