@@ -33,7 +33,7 @@ public:
     {
         int made = 0;
         while (made < count) {
-            const int greedy = random.below(callers.size());
+            const int greedy = random.below(static_cast<int>(callers.size()));
             for (int number = 0; number < callers.size(); ++number) {
                 const int calls = number == greedy ? depth : random.below(10);
                 for (int call = 0; call < calls; ++call)
