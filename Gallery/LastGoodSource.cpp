@@ -34,20 +34,21 @@ QStringList faultsOfTable(const Directory& directory)
 QStringList faultsOfMissingParts(const Answers& answers, const Directory& directory)
 {
     const PublishedResources resources(directory);
-    QString problems[5];
+    QString problems[4];
     QStringList faults;
     if (!answers.colorFile.isAnswered())
         resources.colorFile(problems[0]);
     if (!answers.fontFile.isAnswered())
         resources.fontFile(problems[1]);
-    if (!answers.displaySizes.isAnswered())
-        resources.displaySizes(problems[2]);
     if (!answers.icons.isAnswered()) {
-        resources.iconFolder(problems[3]);
+        resources.iconFolder(problems[2]);
         faults = faultsOfTable(directory);
         if (faults.isEmpty())
-            resources.mappingTable(QString(), problems[4]);
+            resources.mappingTable(QString(), problems[3]);
     }
+    QStringList leftOut; // also if other display sizes are answered
+    resources.displaySizes(leftOut);
+    faults += leftOut;
     std::copy_if(std::begin(problems), std::end(problems), std::back_inserter(faults),
                  [](const QString& problem) { return !problem.isNull(); });
     return faults;
@@ -107,6 +108,7 @@ void LastGoodSource::passOn(const Answers& answers, const QString& problem)
     if (!answers.directory().isEmpty() && answers.directory() != directory) {
         directory = answers.directory();
         judgedTable = QString(); // the messages contain the path
+        originals.clear();
     }
     Answers copied = answers;
     QStringList faults;
@@ -131,10 +133,24 @@ void LastGoodSource::passOn(const Answers& answers, const QString& problem)
 void LastGoodSource::copyDimensions(Answers& answers, QStringList& faults)
 {
     const QString folder = files.copies().dimensionFolder();
+    const auto copyOf = [&folder](const QSize& size) {
+        return QStringLiteral("%1/%2.ini").arg(folder, DisplaySize::toName(size));
+    };
     auto displaySizes = answers.displaySizes.value;
-    for (auto& [size, path] : displaySizes)
-        path = files.update(path, QStringLiteral("%1/%2.ini").arg(folder, DisplaySize::toName(size)), FileFaults::ofIni,
-                            faults);
+    for (auto& [size, path] : displaySizes) {
+        originals.insert(path, size);
+        path = files.update(path, copyOf(size), FileFaults::ofIni, faults);
+    }
+    // A source leaves out a file that has become bad. Its name is in the problem or in the faults of missing parts.
+    for (auto file = originals.cbegin(); file != originals.cend(); ++file) {
+        const QPair<QSize, QString> shown(*file, copyOf(*file));
+        if (answers.displaySizes.isAnswered() && !displaySizes.contains(shown) && QFile::exists(file.key()))
+            displaySizes.append(shown);
+    }
+    std::sort(displaySizes.begin(), displaySizes.end(), [](const auto& left, const auto& right) {
+        return qMakePair(left.first.width(), left.first.height())
+            < qMakePair(right.first.width(), right.first.height());
+    });
     answers.setDisplaySizes(displaySizes);
 }
 

@@ -3,6 +3,9 @@
 #include "Gallery/LastGoodFiles.h"
 #include "QmlHost/Source.h"
 
+#include <QHash>
+#include <QSize>
+
 #include <memory>
 
 namespace Gallery
@@ -34,8 +37,9 @@ private:
 
     QmlHost::Source* const original; // child of this object
     LastGoodFiles files;
-    QString directory;   // of the resources; empty if it is not known
-    QString judgedTable; // the last mapping table
+    QString directory;               // of the resources; empty if it is not known
+    QHash<QString, QSize> originals; // the dimension files that have been good, by path
+    QString judgedTable;             // the last mapping table
     QStringList tableFaults;
     QString goodTable; // the last mapping table without faults; null if there was none
 };

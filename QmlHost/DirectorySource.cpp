@@ -11,14 +11,15 @@ QString readAll(const ResourceFormat::Directory& directory, QmlHost::Answers& an
 {
     const ResourceFormat::PublishedResources resources(directory);
     QString problems[5];
+    QStringList found;
     answers.setColorFile(resources.colorFile(problems[0]));
     answers.setFontFile(resources.fontFile(problems[1]));
-    answers.setDisplaySizes(resources.displaySizes(problems[2]));
-    const QString iconFolder = resources.iconFolder(problems[3]);
-    const QString mappingTable = resources.mappingTable(QString(), problems[4]);
+    answers.setDisplaySizes(resources.displaySizes(found));
+    const QString iconFolder = resources.iconFolder(problems[2]);
+    const QString mappingTable = resources.mappingTable(QString(), problems[3]);
     answers.setIcons(iconFolder, mappingTable, true);
-    answers.setTexts(directory.path());
-    QStringList found;
+    if (!resources.textFolder(problems[4]).isNull())
+        answers.setTexts(directory.path());
     for (const QString& problem : problems) {
         if (!problem.isEmpty())
             found.append(problem);

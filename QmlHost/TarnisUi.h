@@ -37,10 +37,12 @@ public:
     /// The Tarnis module on the system bus, whenever it is there: it is asked when it appears, restarts or changes its
     /// owner. A failed question is repeated after 0.5 s, and then at intervals that double up to 30 s. A service that
     /// hangs is asked as soon as it handles calls again. If the files are followed, it is also asked when one of them
-    /// changes, and changes are shown while it hangs; a device does not need that.
+    /// changes, and changes are shown while it hangs; a device does not need that. The service may name any file that
+    /// this process may read.
     static std::unique_ptr<QmlHost::Source> service(Files files = Files::Ignored);
 
-    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed.
+    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed. Files that links
+    /// lead out of the directory to are not offered; problem() names them.
     static std::unique_ptr<QmlHost::Source> directory(const QString& path);
 
     /// Starts to ask. The texts come from the directory `texts` beside the color file, or from `textManager`, which the

@@ -62,10 +62,10 @@ bool resolveFont(const Resources& resources, const QStringList& names)
 
 bool resolveDimension(const Resources& resources, const QStringList& names)
 {
-    QString problem;
+    QStringList problems;
     TarnisElementDimensionHandler handler(
-        ResourceFormat::PublishedResources(resources.directory).displaySizes(problem));
-    if (!problem.isNull())
+        ResourceFormat::PublishedResources(resources.directory).displaySizes(problems));
+    for (const QString& problem : qAsConst(problems))
         print("service error:", problem);
     const QPair<QSize, QString> nearest =
         handler.nearestNeighbourScreenSize(ResourceFormat::DisplaySize::fromName(names.at(0)));

@@ -1,38 +1,19 @@
 #include "ResourceFormat/RegularFile.h"
 
+#include "ResourceFormat/Descriptor.h"
+
 #include <QFile>
 
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace ResourceFormat
+{
+
 namespace
 {
-
-constexpr off_t sizeLimit = 1 << 30; // a QByteArray holds twice as much
-
-class OpenFile
-{
-public:
-    // Non-blocking: a regular file may have been replaced by a FIFO since it was checked. Opening a FIFO would wait for
-    // its writer, on the thread that draws the screen.
-    explicit OpenFile(const QByteArray& path)
-        : descriptor(open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC))
-    {
-    }
-
-    ~OpenFile()
-    {
-        if (descriptor >= 0)
-            close(descriptor);
-    }
-
-    Q_DISABLE_COPY(OpenFile)
-
-    const int descriptor;
-};
 
 // Returns 0 or the error number.
 int readToEnd(int descriptor, off_t expectedSize, QByteArray& content)
@@ -46,7 +27,7 @@ int readToEnd(int descriptor, off_t expectedSize, QByteArray& content)
         if (count == 0)
             break;
         size += count > 0 ? static_cast<int>(count) : 0;
-        if (size > sizeLimit)
+        if (size > RegularFile::sizeLimit)
             return EFBIG;
         if (size == content.size())
             content.resize(size + size / 2 + 1); // the file has grown
@@ -66,17 +47,40 @@ QString problemOf(int result, const struct stat& status)
 {
     if (result != 0)
         return systemMessage(errno);
-    return S_ISREG(status.st_mode) ? QString() : QStringLiteral("Not a regular file");
+    if (!S_ISREG(status.st_mode))
+        return QStringLiteral("Not a regular file");
+    if (status.st_size <= RegularFile::sizeLimit)
+        return QString();
+    return QStringLiteral("The file has %1 bytes, which is above the limit of %2 bytes")
+        .arg(status.st_size)
+        .arg(RegularFile::sizeLimit);
 }
 
-QByteArray readOpenFile(const OpenFile& file, QString& reason)
+QString problemOfPath(const QString& path)
+{
+    if (path.isEmpty())
+        return QStringLiteral("The path is empty");
+    if (path.contains(QChar::Null))
+        return QStringLiteral("The path contains a null character");
+    struct stat status = {};
+    return problemOf(stat(QFile::encodeName(path).constData(), &status), status);
+}
+
+QString problemOf(const Descriptor& file, struct stat& status)
+{
+    return file.number() < 0 ? file.problem() : problemOf(fstat(file.number(), &status), status);
+}
+
+// `reason` says why the file must not be read; null if it may be.
+QByteArray readOpenFile(const Descriptor& file, QString& reason)
 {
     struct stat status = {};
-    reason = problemOf(file.descriptor < 0 ? -1 : fstat(file.descriptor, &status), status);
+    if (reason.isNull())
+        reason = problemOf(file, status);
     if (!reason.isNull())
         return QByteArray();
     QByteArray content;
-    const int error = status.st_size > sizeLimit ? EFBIG : readToEnd(file.descriptor, status.st_size, content);
+    const int error = readToEnd(file.number(), status.st_size, content);
     if (error == 0)
         return content;
     reason = systemMessage(error);
@@ -85,20 +89,31 @@ QByteArray readOpenFile(const OpenFile& file, QString& reason)
 
 } // namespace
 
-namespace ResourceFormat::RegularFile
+QByteArray RegularFile::readAll(const QString& path, QString& reason)
 {
-
-QByteArray readAll(const QString& path, QString& reason)
-{
-    reason = path.isEmpty() ? QStringLiteral("The path is empty") : QString();
-    if (path.contains(QChar::Null))
-        reason = QStringLiteral("The path contains a null character");
-    if (!reason.isNull())
-        return QByteArray();
-    const QByteArray encodedPath = QFile::encodeName(path);
-    struct stat status = {};
-    reason = problemOf(stat(encodedPath.constData(), &status), status);
-    return reason.isNull() ? readOpenFile(OpenFile(encodedPath), reason) : QByteArray();
+    reason = problemOfPath(path);
+    return reason.isNull() ? readOpenFile(Descriptor::ofFile(path), reason) : QByteArray();
 }
 
-} // namespace ResourceFormat::RegularFile
+QByteArray RegularFile::readAllIn(const QString& directory, const QString& path, QString& reason)
+{
+    reason = problemOfPath(path);
+    if (!reason.isNull())
+        return QByteArray();
+    const Descriptor file = Descriptor::ofFile(path);
+    reason = file.number() < 0 ? file.problem() : file.problemOfPlace(directory);
+    return readOpenFile(file, reason);
+}
+
+QString RegularFile::problemIn(const QString& directory, const QString& path)
+{
+    QString problem = problemOfPath(path);
+    if (!problem.isNull())
+        return problem;
+    const Descriptor file = Descriptor::ofFile(path);
+    struct stat status = {};
+    const QString fault = problemOf(file, status);
+    return fault.isNull() ? file.problemOfPlace(directory) : fault;
+}
+
+} // namespace ResourceFormat

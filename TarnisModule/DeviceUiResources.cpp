@@ -1,6 +1,7 @@
 #include "TarnisModule/DeviceUiResources.h"
 
 #include "TarnisModule/Answer.h"
+#include "TarnisModule/Log.h"
 
 #include <QDBusMetaType>
 #include <QList>
@@ -31,11 +32,18 @@ QDBusVariant DeviceUiResources::getColorIniFilePath() const
     return Answer::of(path, problem);
 }
 
-QDBusVariant DeviceUiResources::getSupportedScreenSizes() const
+QDBusVariant DeviceUiResources::getSupportedScreenSizes()
 {
-    QString problem;
-    const QList<QPair<QSize, QString>> displays = resources.displaySizes(problem);
-    return Answer::of(QVariant::fromValue(displays), problem);
+    QStringList problems;
+    const QList<QPair<QSize, QString>> displays = resources.displaySizes(problems);
+    if (displays.isEmpty())
+        return Answer::of({}, problems.join(QStringLiteral("; ")));
+    for (const QString& problem : qAsConst(problems)) {
+        if (!loggedProblems.contains(problem))
+            Log::write(QStringLiteral("left out: ") + problem);
+    }
+    loggedProblems = problems;
+    return Answer::of(QVariant::fromValue(displays), QString());
 }
 
 } // namespace TarnisModule

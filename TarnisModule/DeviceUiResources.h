@@ -5,6 +5,7 @@
 #include <QDBusVariant>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 namespace TarnisModule
 {
@@ -21,11 +22,13 @@ public:
     QDBusVariant getFontIniFilePath() const;
     QDBusVariant getColorIniFilePath() const;
 
-    /// Every dimension file with its display size; a dimension file with another name is an error.
-    QDBusVariant getSupportedScreenSizes() const;
+    /// The good dimension files with their display sizes. The others are logged when they become bad; if none is good,
+    /// the answer is an error.
+    QDBusVariant getSupportedScreenSizes();
 
 private:
     const ResourceFormat::PublishedResources resources;
+    QStringList loggedProblems;
 };
 
 } // namespace TarnisModule

@@ -1,5 +1,7 @@
 #include "TarnisModule/DeviceUiResources.h"
 #include "TarnisModule/IconProvider.h"
+#include "TarnisModule/Log.h"
+#include "TarnisModule/Termination.h"
 #include "deviceuiresourcesadaptor.h"
 #include "iconprovideradaptor.h"
 
@@ -8,11 +10,8 @@
 #include <QDBusConnection>
 #include <QDBusError>
 #include <QDir>
-#include <QSocketNotifier>
 
-#include <csignal>
 #include <cstdio>
-#include <sys/signalfd.h>
 
 namespace
 {
@@ -21,20 +20,8 @@ enum ExitStatus { Success = 0, WrongUsage = 2, NoDirectory = 3, NoBus = 4, NoNam
 
 int fail(ExitStatus status, const QString& message)
 {
-    std::fprintf(stderr, "tarnis-module: %s\n", qPrintable(message));
+    TarnisModule::Log::write(message);
     return status;
-}
-
-// The signals are blocked in every thread and read from a descriptor, so that the event loop ends as on any other quit.
-void quitOnSignals(QCoreApplication& application)
-{
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGTERM);
-    sigaddset(&signals, SIGINT);
-    sigprocmask(SIG_BLOCK, &signals, nullptr);
-    auto* notifier = new QSocketNotifier(signalfd(-1, &signals, SFD_CLOEXEC), QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
 }
 
 int publish(const ResourceFormat::Directory& directory, QDBusConnection bus)
@@ -59,7 +46,8 @@ int publish(const ResourceFormat::Directory& directory, QDBusConnection bus)
                 QStringLiteral("Disconnected"), QCoreApplication::instance(), SLOT(quit()));
     std::printf("%s publishes %s\n", qPrintable(name), qPrintable(directory.path()));
     std::fflush(stdout);
-    QCoreApplication::exec();
+    if (bus.isConnected()) // it may have been lost before the signal was connected
+        QCoreApplication::exec();
     return bus.isConnected() ? Success : fail(NoBus, QStringLiteral("lost the connection to the D-Bus"));
 }
 
@@ -69,7 +57,7 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(TARNIS_VERSION));
-    quitOnSignals(application);
+    TarnisModule::Termination::install(application);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
-# Proves what the checker promises and records the figures in docs/proof.md: proof.sh [PART...] | --list
+# Proves what the checker and the service promise and records the figures in docs/proof.md: proof.sh [PART...] | --list
 # Without arguments it runs all parts. A part that fails is not recorded.
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
 
 # Each command prints its figures in the last line.
-parts=(damage recall)
+parts=(damage recall callers)
 declare -A commands=(
   [damage]='./scripts/proof/damage.sh'
   [recall]='./scripts/proof/recall.sh'
+  [callers]='./scripts/proof/callers.sh'
 )
 page=docs/proof.md
 

@@ -1,11 +1,8 @@
 // The connectors against tarnis-module.
 
 #include "tests/support/DataRows.h"
-#include "tests/support/Getters.h"
 #include "tests/support/LogRecorder.h"
-#include "tests/support/TestProcess.h"
-
-#include <optional>
+#include "tests/support/ModuleFixture.h"
 
 namespace Tests
 {
@@ -33,37 +30,11 @@ class ServiceTest : public QObject
 {
     Q_OBJECT
 
-    // What the getters give, in their order.
-    QStringList ask() const
-    {
-        QStringList answers;
-        for (const Getter& getter : getters)
-            answers += getter.ask(connectors);
-        return answers;
-    }
-
-    void startModule()
-    {
-        directory.emplace();
-        shell("mkdir icons dimensions; touch fonts.ini colors.ini; cd dimensions; touch 1024x600.ini 800x600.ini "
-              "x.txt 800x480.ini; cd ../icons; echo '{\"a\": {}}' > mapping.json; echo '{ }' > mapping.night.json");
-        module.emplace(TARNIS_MODULE, QStringList{"--resources", directory->path()});
-        QCOMPARE(module->firstLine(), "Module.Tarnis publishes " + directory->path());
-    }
-
-    // Runs a command of the shell in the resource directory.
-    void shell(const QString& command) const
-    {
-        QCOMPARE(run("sh", {"-c", "cd $0 && " + command, directory->path()}).exitStatus, 0);
-    }
-
-    PrivateBus bus;
-    const Connectors connectors{};
-    std::optional<QTemporaryDir> directory;
-    std::optional<TestProcess> module;
+    ModuleFixture service;
+    const Connectors& connectors = service.connectors;
 
 private Q_SLOTS:
-    void cleanup() { module.reset(); }
+    void cleanup() { service.stopModule(); }
 
     void absentServiceFailsEveryCallUntilItReturns()
     {
@@ -72,11 +43,11 @@ private Q_SLOTS:
             QStringList records;
             for (const Getter& getter : getters)
                 records += getter.recordsOfFailure("The name Module.Tarnis was not provided by any .service files", {});
-            QCOMPARE(ask(), QStringList({{}, {}, {}, {}, ""}));
+            QCOMPARE(service.ask(), QStringList({{}, {}, {}, {}, ""}));
             QCOMPARE(log.take(), records);
-            startModule();
-            QCOMPARE(connectors.resources.getFontIniFilePath(), directory->filePath("fonts.ini"));
-            module.reset();
+            service.startModule();
+            QCOMPARE(connectors.resources.getFontIniFilePath(), service.path("fonts.ini"));
+            service.stopModule();
         }
     }
 
@@ -103,48 +74,48 @@ private Q_SLOTS:
 
     void moduleAnswersFromTheCurrentFilesUntilSigterm()
     {
-        startModule();
-        const QString size = "%1 " + directory->filePath("dimensions/%1.ini;");
-        QStringList expected{directory->filePath("fonts.ini"), directory->filePath("colors.ini"),
-                             directory->filePath("icons"), "{\"a\": {}}\n",
-                             size.arg("800x480") + size.arg("800x600") + size.arg("1024x600")};
-        QCOMPARE(ask(), expected);
+        service.startModule();
+        const QString size = "%1 " + service.path("dimensions/%1.ini;");
+        QStringList expected{service.path("fonts.ini"), service.path("colors.ini"), service.path("icons"),
+                             "{\"a\": {}}\n", size.arg("800x480") + size.arg("800x600") + size.arg("1024x600")};
+        QCOMPARE(service.ask(), expected);
         QCOMPARE(connectors.icons.getIconResourcesMappingTable("night"), "{ }\n");
-        shell("rm dimensions/800x600.ini");
+        service.shell("rm dimensions/800x600.ini");
         expected.last().remove(size.arg("800x600"));
-        QCOMPARE(ask(), expected);
+        QCOMPARE(service.ask(), expected);
         LogRecorder log;
         for (const QString name : {".night", "x/../../../etc/passwd", "../\u00FC\u65E5"}) {
             QVERIFY(connectors.icons.getIconResourcesMappingTable(name).isNull());
             QVERIFY(log.take().join("").contains('"' + name + "\\\" is not a valid mapping table name"));
         }
-        module->process().terminate();
-        QVERIFY(module->process().waitForFinished(10000));
-        QVERIFY(module->process().exitStatus() == QProcess::NormalExit && module->process().exitCode() == 0);
+        service.module->process().terminate();
+        QVERIFY(service.module->process().waitForFinished(10000));
+        QVERIFY(service.module->process().exitStatus() == QProcess::NormalExit
+                && service.module->process().exitCode() == 0);
     }
 
     void badFileIsAnsweredWithAnErrorThatNamesIt_data() { addRows({"file", "damage", "failing", "reason"}); }
 
     void badFileIsAnsweredWithAnErrorThatNamesIt()
     {
-        startModule();
-        QStringList expected = ask();
+        service.startModule();
+        QStringList expected = service.ask();
         for (int getter = 0; getter < 5; ++getter) {
             if (rowTexts("failing").contains(getters[getter].method))
                 expected[getter] = "";
         }
         const QString file = row()["file"].toString();
-        shell("F=" + file + "; " + row()["damage"].toString());
+        service.shell("F=" + file + "; " + row()["damage"].toString());
         LogRecorder log;
-        QCOMPARE(ask(), expected);
+        QCOMPARE(service.ask(), expected);
         const QString record = log.take().value(0);
-        QVERIFY2(record.contains(directory->filePath(file)), qPrintable(record));
+        QVERIFY2(record.contains(service.path(file)), qPrintable(record));
         QVERIFY2(record.contains(row()["reason"].toString()), qPrintable(record));
     }
 
     void moduleOffersTheInterfacesOfTheContracts()
     {
-        startModule();
+        service.startModule();
         for (const QString object : {"DeviceUiResources", "IconProvider"}) {
             const QDBusReply<QString> offer = QDBusConnection::systemBus().call(QDBusMessage::createMethodCall(
                 "Module.Tarnis", "/Tarnis/" + object, "org.freedesktop.DBus.Introspectable", "Introspect"));
@@ -160,7 +131,7 @@ private Q_SLOTS:
 
     void moduleExitsWithAStatusAndAMessage()
     {
-        startModule();
+        service.startModule();
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/no/bus");
         const Outcome outcome = run(TARNIS_MODULE, rowTexts("arguments"));
         QCOMPARE(outcome.exitStatus, row()["status"].toInt());

@@ -12,7 +12,7 @@ module=$installed/bin/tarnis-module resources=$installed/share/tarnis/resources
 buses=$installed/share/dbus-1
 
 # The threshold is ten times the highest accepted exposure.
-systemd-analyze security --no-pager --offline=true --threshold=20 "$unit" >"$work/exposure" ||
+systemd-analyze security --no-pager --offline=true --threshold=5 "$unit" >"$work/exposure" ||
   fail "the unit is too exposed: $(tail -n 1 "$work/exposure")"
 # The installed files contain the absolute path of the installed program. Puts the root before it.
 below_root() { sed -E "/^Exec/s|([= ])/|\1$root/|g" "$1"; }

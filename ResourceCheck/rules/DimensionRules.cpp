@@ -121,7 +121,7 @@ QVector<Rule> dimensionRules()
          checkNamesAreUnique,
          QStringLiteral("Write no `/` in groups and keys: `b/c` in `[a]` and `c` in `[a/b]` are both `a/b/c`.")},
         {QStringLiteral("dimension-name"), Severity::Error,
-         QStringLiteral("If one file name is not a display size, the service answers with an error for all of them."),
+         QStringLiteral("If a file name is not a display size, the service leaves the file out."),
          checkNames, QStringLiteral("Name the file after the display, for example `800x480.ini`.")},
         {QStringLiteral("display-duplicate"), Severity::Error,
          QStringLiteral("Only one of two files for the same display size is ever used."), checkSizesDiffer,

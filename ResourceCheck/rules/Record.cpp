@@ -10,6 +10,7 @@ namespace
 
 const QString library = QStringLiteral("library");
 const QString platform = QStringLiteral("platform");
+const QString service = QStringLiteral("service");
 const QString qt = QStringLiteral("Qt");
 
 Record announced(const QString& origin, const char* text, const QString& rules)
@@ -73,6 +74,14 @@ QVector<Record> platformRecords()
     };
 }
 
+QVector<Record> serviceRecords()
+{
+    return {
+        announced(service, "tarnis-module: left out: …",
+                  QStringLiteral("dimension-name file-link file-unreadable ini-syntax")),
+    };
+}
+
 QVector<Record> qtRecords()
 {
     return {
@@ -99,7 +108,7 @@ QString Record::pattern() const
 
 const QVector<Record>& allRecords()
 {
-    static const QVector<Record> records = libraryRecords() + platformRecords() + qtRecords();
+    static const QVector<Record> records = libraryRecords() + platformRecords() + serviceRecords() + qtRecords();
     return records;
 }
 

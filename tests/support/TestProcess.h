@@ -26,11 +26,11 @@ struct Child : QProcess {
     void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
 };
 
-/// Starts a program and waits for the first line that it prints. Kills it in the end.
+/// Starts a program, whose errors go to a file, and waits for the first line that it prints. Kills it in the end.
 struct TestProcess {
-    TestProcess(const QString& program, const QStringList& arguments)
+    TestProcess(const QString& program, const QStringList& arguments, const QString& errorFile = QProcess::nullDevice())
     {
-        child.setStandardErrorFile(QProcess::nullDevice());
+        child.setStandardErrorFile(errorFile);
         child.launch(program, arguments);
         while (!child.canReadLine() && child.waitForReadyRead(10000)) { }
         line = QString::fromUtf8(child.readLine()).trimmed();
@@ -61,10 +61,13 @@ private:
 /// A bus that is the system bus of this process and its children. Qt connects a process to the system bus only once, so
 /// create one for the whole test.
 struct PrivateBus {
-    PrivateBus() { qputenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine().toUtf8()); }
+    explicit PrivateBus(const QString& configuration = TEST_BUS_CONFIGURATION)
+        : daemon("dbus-daemon", {"--config-file", configuration, "--nofork", "--nopidfile", "--print-address"})
+    {
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", daemon.firstLine().toUtf8());
+    }
 
-    TestProcess daemon{"dbus-daemon",
-                       {"--config-file", TEST_BUS_CONFIGURATION, "--nofork", "--nopidfile", "--print-address"}};
+    TestProcess daemon;
 };
 
 /// Runs a program to its end, or kills it after 30 s (then, and after a crash, the exit status is -1).
