@@ -104,6 +104,15 @@ void UseCheck::checkKey(const QmlPattern& group, const QmlPattern& key, const Re
     const QmlPattern name = use.name(group, key);
     if (exists(group, key) || isExcused(key))
         return;
+    const QmlPattern& undefined = group.isUndefined ? group : key;
+    if (undefined.isUndefined) {
+        report(
+            undefined.place,
+            QStringLiteral("no object that is read here has this member, so the name of the %1 is undefined; correct "
+                           "the name of the member")
+                .arg(kindName(use.kind)));
+        return;
+    }
     const QString nearest = names.nearest(name);
     const QString advice = nearest.isNull() ? QStringLiteral("add it or correct the name")
                                             : QStringLiteral("did you mean \"%1\"?").arg(nearest);
