@@ -31,7 +31,7 @@ enum class CodeAction {
     Text,      // target = the text `number`
     Unknown,   // target = any value
     Copy,      // target = left
-    Default,   // target = left, if the caller does not pass the parameter `number` or passes `undefined`
+    Default,   // target = left, if the caller does not pass the parameter `number` or `undefined`
     Name,      // target = the value of the name `number`, which is not a variable, for the scope object `left`
     SetName,   // the same name = right
     Get,       // target = left.number
