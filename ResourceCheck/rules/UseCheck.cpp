@@ -53,6 +53,9 @@ QVector<QmlPattern> UseCheck::relevant(const QVector<QmlPattern>& patterns) cons
             && isBefore(pattern.place, use.end);
         return !pattern.isLiteral() || pattern.hasText() || isInCall;
     });
+    // The order of the analysis depends on how the code is written.
+    std::stable_sort(list.begin(), list.end(),
+                     [](const auto& left, const auto& right) { return left.text() < right.text(); });
     return list;
 }
 
