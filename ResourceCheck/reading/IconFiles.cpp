@@ -10,6 +10,7 @@
 #include <QThreadPool>
 
 #include <atomic>
+#include <functional>
 
 namespace ResourceCheck
 {
@@ -30,10 +31,41 @@ bool canBeSvg(const QFileInfo& file)
     return suffix == "svg" || !formats.contains(suffix);
 }
 
+// Performs the task with each number below the count, on all processors.
+void performAll(size_t count, const std::function<void(size_t number)>& task)
+{
+    std::atomic<size_t> next{0};
+    const auto performOthers = [count, &task, &next] {
+        for (size_t number = next++; number < count; number = next++)
+            task(number);
+    };
+    QThreadPool threads;
+    for (int thread = 0; thread < threads.maxThreadCount(); ++thread)
+        threads.start(performOthers);
+    threads.waitForDone();
+}
+
+// QFileInfo keeps what it has asked the system, also for its copies.
+void askSystem(const IconDirectory& icons, const QVector<IconPath>& paths)
+{
+    QSet<QString> asked;
+    std::vector<QFileInfo> files;
+    for (const IconPath& path : paths) {
+        if (!IconDirectory::isOutside(path.path) && !asked.contains(path.path))
+            files.push_back(icons.file(path.path));
+        asked.insert(path.path);
+    }
+    performAll(files.size(), [&files](size_t number) {
+        if (files[number].isFile())
+            files[number].canonicalFilePath();
+    });
+}
+
 } // namespace
 
 IconFiles::IconFiles(const IconDirectory& icons, const QVector<IconPath>& paths)
 {
+    askSystem(icons, paths);
     QHash<QString, size_t> known; // by what links lead to, and suffix
     QSet<QString> svgFiles;
     for (const IconPath& path : paths) {
@@ -51,15 +83,7 @@ IconFiles::IconFiles(const IconDirectory& icons, const QVector<IconPath>& paths)
         }
         numbers.insert(path.path, known.value(identity));
     }
-    std::atomic<size_t> next{0};
-    const auto readOthers = [this, &next] {
-        for (size_t number = next++; number < files.size(); number = next++)
-            read(files[number]);
-    };
-    QThreadPool threads;
-    for (int thread = 0; thread < threads.maxThreadCount(); ++thread)
-        threads.start(readOthers);
-    threads.waitForDone();
+    performAll(files.size(), [this](size_t number) { read(files[number]); });
 }
 
 const IconFiles::File* IconFiles::find(const QString& relativePath) const
