@@ -174,8 +174,7 @@ QString Options::readSettings(const QCommandLineParser& parser)
         for (const QString& value : parser.values(name))
             addProblem(name, settings.setOption(name, value));
     }
-    if (parser.isSet(QStringLiteral("werror")))
-        settings.warningsAreErrors = true;
+    settings.warningsAreErrors |= parser.isSet(QStringLiteral("werror"));
     problems.removeAll(QString());
     return problems.value(0);
 }

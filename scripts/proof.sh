@@ -6,10 +6,12 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 # Each command prints its figures in the last line.
-parts=(damage recall callers)
+parts=(damage precision recall rewriting callers)
 declare -A commands=(
   [damage]='./scripts/proof/damage.sh'
+  [precision]='./scripts/proof/precision.sh'
   [recall]='./scripts/proof/recall.sh'
+  [rewriting]='./scripts/proof/rewriting.sh'
   [callers]='./scripts/proof/callers.sh'
 )
 page=docs/proof.md

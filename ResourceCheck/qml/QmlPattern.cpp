@@ -32,6 +32,8 @@ bool QmlPattern::matches(const QString& text) const
 QmlPattern operator+(const QmlPattern& left, const QmlPattern& right)
 {
     QmlPattern sum{left.pieces, left.hasText() ? left.place : right.place, left.isUncertain || right.isUncertain};
+    // An empty text changes nothing: the text can still be put together with the rest of it.
+    sum.isPart = (left.isPart && right.text().isEmpty()) || (right.isPart && left.text().isEmpty());
     sum.pieces.last() += right.pieces.first();
     const bool isGap = sum.pieces.last().isEmpty() && !left.isLiteral() && !right.isLiteral();
     if (isGap)

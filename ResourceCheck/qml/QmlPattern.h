@@ -11,11 +11,17 @@ namespace ResourceCheck
 struct QmlPattern {
     static QmlPattern literal(const QString& text, const Place& place = {}) { return {{text}, place, false}; }
     static QmlPattern anything(const Place& place = {}) { return {{QString(), QString()}, place, false}; }
+    static QmlPattern undefined(const Place& place = {})
+    {
+        return {{QStringLiteral("undefined")}, place, false, false, true};
+    }
 
     QStringList pieces; // a single piece is the whole text
     Place place;        // of the first literal piece if there is one
     /// Whether the pieces may never meet, because several texts on each side of a `+` may depend on each other.
     bool isUncertain = false;
+    bool isPart = false;      // of the text that the code has at the place
+    bool isUndefined = false; // the value that JavaScript calls so, which the code at the place gives
 
     bool isLiteral() const { return pieces.size() == 1; }
     bool hasText() const;

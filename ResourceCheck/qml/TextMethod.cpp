@@ -51,7 +51,7 @@ QmlPattern replaced(const QmlPattern& text, const QmlPattern& before, const QmlP
     return result + QmlPattern::literal(rest, text.place);
 }
 
-// slice(), substring() and charAt() with numbers that are known.
+// slice(), substring(), substr() and charAt() with numbers that are known.
 QmlPattern part(const QString& method, const QmlPattern& text, const QVector<QmlPattern>& arguments)
 {
     bool isFirstNumber = false;
@@ -63,10 +63,12 @@ QmlPattern part(const QString& method, const QmlPattern& text, const QVector<Qml
         second = arguments.at(1).text().toInt(&isSecondNumber);
     if (!text.isLiteral() || !isFirstNumber || !isSecondNumber)
         return QmlPattern::anything(text.place);
-    const bool countsFromEnd = method == QLatin1String("slice");
+    const bool countsFromEnd = method == QLatin1String("slice") || method == QLatin1String("substr");
     first = first < 0 && countsFromEnd ? qMax(0, size + first) : qMax(0, first);
     second = second < 0 && countsFromEnd ? size + second : second;
-    return QmlPattern::literal(text.text().mid(first, qMax(0, second - first)), text.place);
+    if (method == QLatin1String("substr") && arguments.size() > 1)
+        second += first;
+    return {{text.text().mid(first, qMax(0, second - first))}, text.place, text.isUncertain, true};
 }
 
 } // namespace
@@ -78,7 +80,7 @@ bool TextMethod::isKnown(const QString& method)
         QStringLiteral("toLocaleUpperCase"), QStringLiteral("trim"),        QStringLiteral("toString"),
         QStringLiteral("valueOf"),           QStringLiteral("arg"),         QStringLiteral("replace"),
         QStringLiteral("replaceAll"),        QStringLiteral("concat"),      QStringLiteral("slice"),
-        QStringLiteral("substring"),         QStringLiteral("charAt"),
+        QStringLiteral("substring"),         QStringLiteral("charAt"),      QStringLiteral("substr"),
     };
     return methods.contains(method);
 }

@@ -2,6 +2,7 @@
 
 #include "ResourceCheck/MessageSilencer.h"
 
+#include <QBuffer>
 #include <QHash>
 #include <QImage>
 #include <QImageReader>
@@ -22,12 +23,14 @@ QByteArray familyOf(const QByteArray& format)
 
 } // namespace
 
-QString imageFault(const QFileInfo& file)
+QString imageFault(const QByteArray& content, const QByteArray& suffix)
 {
     const MessageSilencer silencer; // Qt's readers log what the finding says anyway
     static const QList<QByteArray> knownFormats = QImageReader::supportedImageFormats();
-    const QByteArray suffix = file.suffix().toLower().toLatin1();
-    QImageReader reader(file.filePath());
+    QBuffer buffer;
+    buffer.setData(content);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     const QByteArray format = reader.format();
     const QString formatName = QString::fromLatin1(format.toUpper());

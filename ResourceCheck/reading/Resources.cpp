@@ -1,11 +1,7 @@
 #include "ResourceCheck/reading/Resources.h"
 
-#include "ResourceCheck/svg/SvgReader.h"
 #include "ResourceFormat/DisplaySize.h"
 #include "ResourceFormat/Language.h"
-
-#include <QImageReader>
-#include <QSet>
 
 namespace ResourceCheck
 {
@@ -39,30 +35,6 @@ QVector<TextFile> readTexts(const QFileInfoList& files)
     return texts;
 }
 
-// Qt looks at the content of a file whose suffix it does not know.
-bool canBeSvg(const QFileInfo& file)
-{
-    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    const QByteArray suffix = file.suffix().toLower().toLatin1();
-    return suffix == "svg" || !formats.contains(suffix);
-}
-
-// Several icons can be links to the same file.
-QVector<SvgFault> readSvgFiles(const IconDirectory& icons, const QVector<IconPath>& paths)
-{
-    QVector<SvgFault> faults;
-    QSet<QString> seen;
-    for (const IconPath& path : paths) {
-        const QFileInfo file = icons.file(path.path);
-        const QString identity = file.canonicalFilePath();
-        if (!canBeSvg(file) || !icons.contains(path.path) || seen.contains(identity))
-            continue;
-        seen.insert(identity);
-        faults += SvgReader(file.filePath()).faults();
-    }
-    return faults;
-}
-
 } // namespace
 
 Resources::Resources(const QString& path)
@@ -72,7 +44,7 @@ Resources::Resources(const QString& path)
     , dimensions(readDimensions(directory.dimensionFiles()))
     , icons(directory.iconFolder())
     , iconTables(readIconTables(directory.mappingTables()))
-    , svgFaults(readSvgFiles(icons, iconPaths()))
+    , iconFiles(icons, iconPaths())
     , texts(readTexts(directory.languageFiles()))
 {
 }

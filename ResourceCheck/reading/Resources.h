@@ -2,10 +2,10 @@
 
 #include "ResourceCheck/reading/DimensionFile.h"
 #include "ResourceCheck/reading/IconDirectory.h"
+#include "ResourceCheck/reading/IconFiles.h"
 #include "ResourceCheck/reading/IconTable.h"
 #include "ResourceCheck/reading/IniFile.h"
 #include "ResourceCheck/reading/TextFile.h"
-#include "ResourceCheck/svg/SvgFault.h"
 #include "ResourceFormat/Directory.h"
 
 #include <QVector>
@@ -29,7 +29,7 @@ struct Resources {
     QVector<DimensionFile> dimensions; // sorted by file name
     IconDirectory icons;
     QVector<IconTable> iconTables; // the default table first
-    QVector<SvgFault> svgFaults;   // of the files that the tables list
+    IconFiles iconFiles;           // that the tables list
     QVector<TextFile> texts;       // sorted by file name
 };
 

@@ -1,7 +1,5 @@
 #include "ResourceCheck/Project.h"
-#include "ResourceCheck/reading/ImageFault.h"
 #include "ResourceCheck/rules/Rule.h"
-#include "ResourceFormat/RegularFile.h"
 
 #include <QHash>
 #include <QSet>
@@ -14,31 +12,26 @@ namespace
 
 void checkImages(const Project& project, const Report& report)
 {
-    const IconDirectory& icons = project.resources.icons;
-    QSet<QString> seen;
+    QSet<const IconFiles::File*> seen; // several icons can be links to the same file
     for (const IconPath& path : project.resources.iconPaths()) {
-        const QFileInfo file = icons.file(path.path);
-        // Several icons can be links to the same file.
-        const QString identity = file.canonicalFilePath() + QLatin1Char('.') + file.suffix();
-        if (!icons.contains(path.path) || seen.contains(identity))
+        const IconFiles::File* const file = project.resources.iconFiles.find(path.path);
+        if (file == nullptr || seen.contains(file))
             continue;
-        seen.insert(identity);
-        const QString fault = imageFault(file);
-        if (!fault.isNull())
-            report(path.place, QStringLiteral("\"%1\" %2").arg(path.path, fault));
+        seen.insert(file);
+        if (!file->imageFault.isNull())
+            report(path.place, QStringLiteral("\"%1\" %2").arg(path.path, file->imageFault));
     }
 }
 
-void reportSame(const IconDirectory& icons, const IconAlias& alias, const Report& report)
+void reportSame(const IconFiles& files, const IconAlias& alias, const Report& report)
 {
     QHash<QByteArray, QString> contexts;
     for (const IconPath& path : alias.paths) {
-        if (!icons.contains(path.path))
+        const IconFiles::File* const file = files.find(path.path);
+        if (file == nullptr)
             continue;
-        QString problem;
-        const QByteArray content = ResourceFormat::RegularFile::readAll(icons.file(path.path).filePath(), problem);
-        const QString first = contexts.value(content, path.context);
-        contexts.insert(content, first);
+        const QString first = contexts.value(file->digest, path.context);
+        contexts.insert(file->digest, first);
         if (first != path.context) {
             report(path.place,
                    QStringLiteral("the alias \"%1\" has the same icon for \"%2\"; use another icon or remove this one")
@@ -51,7 +44,7 @@ void checkSame(const Project& project, const Report& report)
 {
     for (const IconTable& table : project.resources.iconTables) {
         for (const IconAlias& alias : table.aliases)
-            reportSame(project.resources.icons, alias, report);
+            reportSame(project.resources.iconFiles, alias, report);
     }
 }
 

@@ -10,7 +10,7 @@ namespace
 Rule::Check faultsOf(SvgFault::Kind kind)
 {
     return [kind](const Project& project, const Report& report) {
-        for (const SvgFault& fault : project.resources.svgFaults) {
+        for (const SvgFault& fault : project.resources.iconFiles.svgFaults()) {
             if (fault.kind == kind)
                 report(fault.place, fault.message);
         }

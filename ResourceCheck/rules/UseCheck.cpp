@@ -53,6 +53,9 @@ QVector<QmlPattern> UseCheck::relevant(const QVector<QmlPattern>& patterns) cons
             && isBefore(pattern.place, use.end);
         return !pattern.isLiteral() || pattern.hasText() || isInCall;
     });
+    // The order of the analysis depends on how the code is written.
+    std::stable_sort(list.begin(), list.end(),
+                     [](const auto& left, const auto& right) { return left.text() < right.text(); });
     return list;
 }
 
@@ -104,6 +107,15 @@ void UseCheck::checkKey(const QmlPattern& group, const QmlPattern& key, const Re
     const QmlPattern name = use.name(group, key);
     if (exists(group, key) || isExcused(key))
         return;
+    const QmlPattern& undefined = group.isUndefined ? group : key;
+    if (undefined.isUndefined) {
+        report(
+            undefined.place,
+            QStringLiteral("no object that is read here has this member, so the name of the %1 is undefined; correct "
+                           "the name of the member")
+                .arg(kindName(use.kind)));
+        return;
+    }
     const QString nearest = names.nearest(name);
     const QString advice = nearest.isNull() ? QStringLiteral("add it or correct the name")
                                             : QStringLiteral("did you mean \"%1\"?").arg(nearest);

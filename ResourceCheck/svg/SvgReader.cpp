@@ -1,9 +1,6 @@
 #include "ResourceCheck/svg/SvgReader.h"
 
 #include "ResourceCheck/svg/SvgElementCheck.h"
-#include "ResourceFormat/RegularFile.h"
-
-#include <QFileInfo>
 
 namespace ResourceCheck
 {
@@ -13,7 +10,7 @@ using Kind = SvgFault::Kind;
 namespace
 {
 
-constexpr qint64 maximumBytes = qint64{2} * 1024 * 1024;
+constexpr int maximumBytes = 2 * 1024 * 1024;
 constexpr int maximumBlanks = 16;  // Qt does not take a file for SVG that begins with more
 constexpr int maximumDepth = 2048; // Qt rejects deeper files
 
@@ -38,15 +35,11 @@ QString wrongParent(const QString& name)
 
 } // namespace
 
-SvgReader::SvgReader(const QString& path)
+SvgReader::SvgReader(const QString& path, const QByteArray& content)
 {
-    QString problem;
-    QByteArray content;
-    if (QFileInfo(path).size() > maximumBytes)
+    if (content.size() > maximumBytes)
         found.add(Kind::Size, 0, QStringLiteral("the file is larger than 2 MiB; simplify the picture"));
-    else
-        content = ResourceFormat::RegularFile::readAll(path, problem);
-    if (hasTooManyAttributes(content))
+    else if (hasTooManyAttributes(content))
         found.add(Kind::Size, 0, QStringLiteral("an element has more than 2,000 attributes; simplify the picture"));
     else if (content.left(maximumBlanks).trimmed().startsWith('<'))
         parse(content);

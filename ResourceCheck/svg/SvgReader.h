@@ -11,12 +11,13 @@ namespace ResourceCheck
 {
 
 /// Reads an SVG file as a stream, makes the decisions of Qt Svg 5.15 without drawing anything, and finds what Qt will
-/// not draw as intended. Files that are compressed or not
-/// SVG, and the content of files above 2 MiB, are not read.
+/// not draw as intended. Files that are compressed or not SVG, and those
+/// above 2 MiB, are not parsed.
 class SvgReader
 {
 public:
-    explicit SvgReader(const QString& path);
+    /// The path is that of the places of faults.
+    SvgReader(const QString& path, const QByteArray& content);
 
     const QVector<SvgFault>& faults() const { return faultList; }
 

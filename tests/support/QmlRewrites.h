@@ -52,7 +52,7 @@ inline QString inConstant(const QString& code)
 {
     static const QRegularExpression binding(
         "^ *(?:[A-Z][\\w.]* \\{ )?(?:readonly )?(?:property \\w+ )?(?!default\\b)[\\w.]+: ([^{};\\n]*?[\"\\])])"
-        "(?: \\})?(?: //[^\\n]*)?$(?!\\n *[-+?:.])",
+        "(?: \\})?(?: //[^\\n]*)?$(?!\\n *(?:[-+?:.]|\\}\\)))",
         QRegularExpression::MultilineOption);
     QString result = code;
     int shift = 0;

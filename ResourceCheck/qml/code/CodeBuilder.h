@@ -36,6 +36,8 @@ public:
     void copy(CodeSlot source, CodeSlot target);
 
     CodeSlot text(const QString& text, CodePosition position, bool isNumber = false);
+    CodeSlot emptyText() { return compute(CodeAction::Text, {}, {}, tables.texts.add(QString(), {})); }
+    CodeSlot undefined() { return compute(CodeAction::Text, {}, {}, tables.texts.number(QmlPattern::undefined())); }
     CodeSlot unknown() { return compute(CodeAction::Unknown); }
 
     void openBlock() { blocks.append(QHash<QString, CodeSlot>()); }

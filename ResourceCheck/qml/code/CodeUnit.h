@@ -31,7 +31,7 @@ enum class CodeAction {
     Text,      // target = the text `number`
     Unknown,   // target = any value
     Copy,      // target = left
-    Default,   // target = left, if the caller does not pass the parameter `number`
+    Default,   // target = left, if the caller does not pass the parameter `number` or `undefined`
     Name,      // target = the value of the name `number`, which is not a variable, for the scope object `left`
     SetName,   // the same name = right
     Get,       // target = left.number
@@ -80,7 +80,8 @@ struct CodeProperty {
     int name;
     bool isRequired = false;
     bool isSignal = false;
-    QVector<int> parameters; // of a signal
+    bool isReadonly = false;
+    QVector<int> parameters = {}; // of a signal
 };
 
 /// `path: value`, with one name in the path for `color` and two for `font.family`.

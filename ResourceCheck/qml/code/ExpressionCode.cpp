@@ -72,6 +72,11 @@ CodeSlot writeConditional(const ConditionalExpression* condition, CodeBuilder& b
     return result;
 }
 
+CodeSlot withoutText(CodeSlot value, CodeSlot text, CodeBuilder& builder)
+{
+    return value.isValid() ? builder.compute(CodeAction::Without, value, text) : value;
+}
+
 CodeSlot writeBinary(BinaryExpression* binary, CodeBuilder& builder)
 {
     const bool isAnd = binary->op == QSOperator::And;
@@ -85,9 +90,8 @@ CodeSlot writeBinary(BinaryExpression* binary, CodeBuilder& builder)
         const CodeSlot result = builder.newSlot();
         if (!isAnd) {
             // An empty or missing left side is replaced.
-            const CodeSlot empty = builder.compute(CodeAction::Text, {}, {}, builder.tables.texts.add(QString(), {}));
-            const bool replacesEmpty = binary->op == QSOperator::Or;
-            builder.copy(replacesEmpty ? builder.compute(CodeAction::Without, left, empty) : left, result);
+            const CodeSlot replaced = binary->op == QSOperator::Or ? builder.emptyText() : builder.undefined();
+            builder.copy(withoutText(left, replaced, builder), result);
         }
         const GuardCode guard(binary->left, isAnd, builder);
         builder.copy(write(binary->right, builder), result);
@@ -172,6 +176,13 @@ QString ExpressionCode::path(Node* expression)
         return identifier->name.toString();
     if (expression != nullptr && expression->kind == Node::Kind_ThisExpression)
         return QStringLiteral("this");
+    if (const auto* element = cast<ArrayMemberExpression*>(expression)) {
+        const auto* text = cast<StringLiteral*>(element->expression);
+        const QString key =
+            text != nullptr ? QLatin1Char('"') + text->value.toString() + QLatin1Char('"') : path(element->expression);
+        const QString base = path(element->base);
+        return key.isNull() || base.isNull() ? QString() : QStringLiteral("%1[%2]").arg(base, key);
+    }
     const auto* member = cast<FieldMemberExpression*>(expression);
     const QString base = member == nullptr ? QString() : path(member->base);
     return base.isNull() ? base : base + QLatin1Char('.') + member->name.toString();

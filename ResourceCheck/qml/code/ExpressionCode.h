@@ -17,7 +17,7 @@ CodeSlot write(QQmlJS::AST::ExpressionNode* expression, CodeBuilder& builder);
 /// Assigns the value to a variable, a property or the variables of a pattern.
 void assign(QQmlJS::AST::ExpressionNode* target, CodeSlot value, CodeBuilder& builder);
 
-/// The text of a path such as `row.name`; null for any other expression.
+/// The text of a path such as `row.name` or `table[key]`; null for any other expression.
 QString path(QQmlJS::AST::Node* expression);
 
 /// The place of a token.

@@ -30,16 +30,18 @@ void writeParameters(FormalParameterList* formals, CodeBuilder& builder)
     index = 0;
     for (FormalParameterList* item = formals; item != nullptr; item = item->next, ++index) {
         const CodeSlot slot = builder.unit.parameters.at(index).slot;
+        CodeSlot value = slot;
         PatternElement* element = item->element;
         if (element->initializer != nullptr) {
-            const CodeSlot value = ExpressionCode::write(element->initializer, builder);
-            if (value.isValid())
-                builder.append({CodeAction::Default, slot, value, {}, index, {}, {}});
+            const CodeSlot initial = ExpressionCode::write(element->initializer, builder);
+            if (initial.isValid())
+                builder.append({CodeAction::Default, slot, initial, {}, index, {}, {}});
+            value = builder.compute(CodeAction::Without, slot, builder.undefined());
         }
         if (element->bindingTarget != nullptr) // the parser gives the pattern a name, too
-            ExpressionCode::assign(element->bindingTarget, slot, builder);
+            ExpressionCode::assign(element->bindingTarget, value, builder);
         else
-            builder.copy(slot, builder.variable(element->bindingIdentifier.toString()));
+            builder.copy(value, builder.variable(element->bindingIdentifier.toString()));
     }
 }
 

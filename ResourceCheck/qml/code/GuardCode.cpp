@@ -52,18 +52,42 @@ void GuardCode::add(ExpressionNode* condition, bool isTrue)
             add(binary->right, isTrue);
         } else if (isEqual || binary->op == QSOperator::NotEqual || binary->op == QSOperator::StrictNotEqual) {
             addComparison(binary->left, binary->right, isEqual == isTrue);
+        } else if (binary->op == QSOperator::In && isTrue) {
+            addMember(binary->right, binary->left);
         }
     } else if (isTrue) {
-        const CodeSlot empty = builder.compute(CodeAction::Text, {}, {}, builder.tables.texts.add(QString(), {}));
-        restrict(condition, CodeAction::Without, empty);
+        const auto* call = cast<CallExpression*>(condition);
+        const auto* method = call == nullptr ? nullptr : cast<FieldMemberExpression*>(call->base);
+        if (method != nullptr && method->name == QLatin1String("hasOwnProperty") && call->arguments != nullptr)
+            addMember(method->base, call->arguments->expression);
+        else
+            restrict(condition, CodeAction::Without, builder.emptyText());
     }
+}
+
+// The object has the member.
+void GuardCode::addMember(ExpressionNode* object, ExpressionNode* name)
+{
+    ArrayMemberExpression member(object, name);
+    restrict(&member, CodeAction::Without, builder.undefined());
 }
 
 void GuardCode::addComparison(ExpressionNode* left, ExpressionNode* right, bool isEqual)
 {
     const CodeAction action = isEqual ? CodeAction::Only : CodeAction::Without;
-    restrict(left, action, builder.compared.value(right));
-    restrict(right, action, builder.compared.value(left));
+    for (const auto& [subject, other] : {std::make_pair(left, right), std::make_pair(right, left)}) {
+        const auto* type = cast<TypeOfExpression*>(subject);
+        const auto* text = cast<StringLiteral*>(other);
+        const auto* name = cast<IdentifierExpression*>(other);
+        const bool isUndefined = name != nullptr && name->name == QLatin1String("undefined");
+        const bool isTypeUndefined = text != nullptr && text->value == QLatin1String("undefined");
+        if (type != nullptr && isEqual != isTypeUndefined)
+            restrict(type->expression, CodeAction::Without, builder.undefined());
+        else if (isUndefined || other->kind == Node::Kind_NullExpression)
+            restrict(subject, action, builder.undefined());
+        else
+            restrict(subject, action, builder.compared.value(other));
+    }
 }
 
 void GuardCode::restrict(ExpressionNode* subject, CodeAction action, CodeSlot texts)

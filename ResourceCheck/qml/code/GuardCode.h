@@ -28,6 +28,7 @@ public:
 private:
     void add(QQmlJS::AST::ExpressionNode* condition, bool isTrue);
     void addComparison(QQmlJS::AST::ExpressionNode* left, QQmlJS::AST::ExpressionNode* right, bool isEqual);
+    void addMember(QQmlJS::AST::ExpressionNode* object, QQmlJS::AST::ExpressionNode* name);
     void restrict(QQmlJS::AST::ExpressionNode* subject, CodeAction action, CodeSlot texts);
 
     CodeBuilder& builder;

@@ -63,7 +63,7 @@ void ObjectCode::writeProperty(UiPublicMember* property, int owner)
     const bool isAlias = property->memberType != nullptr
         && ComponentCode::names(property->memberType) == QStringList{QStringLiteral("alias")};
     // `required title` without a type refers to a property of the base type.
-    object(owner).properties.append({builder.number(name), property->isRequired, false, {}});
+    object(owner).properties.append({builder.number(name), property->isRequired, false, property->isReadonlyMember});
     const bool isComponent = property->memberType != nullptr
         && ComponentCode::names(property->memberType).last() == QLatin1String("Component");
     if (property->statement != nullptr)
@@ -79,7 +79,7 @@ void ObjectCode::writeProperty(UiPublicMember* property, int owner)
 
 void ObjectCode::writeSignal(UiPublicMember* signal, int owner)
 {
-    CodeProperty declared{builder.number(signal->name.toString()), false, true, {}};
+    CodeProperty declared{builder.number(signal->name.toString()), false, true};
     for (UiParameterList* item = signal->parameters; item != nullptr; item = item->next)
         declared.parameters.append(builder.number(item->name.toString()));
     object(owner).properties.append(declared);

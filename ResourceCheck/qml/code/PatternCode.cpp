@@ -130,7 +130,7 @@ void PatternCode::bind(PatternElement* element, CodeSlot value, CodeBuilder& bui
     CodeSlot own = value;
     if (element->initializer != nullptr) {
         own = builder.newSlot();
-        builder.copy(value, own);
+        builder.copy(value.isValid() ? builder.compute(CodeAction::Without, value, builder.undefined()) : value, own);
         builder.copy(ExpressionCode::write(element->initializer, builder), own);
     }
     if (element->bindingTarget != nullptr)

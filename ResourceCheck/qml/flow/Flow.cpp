@@ -19,6 +19,8 @@ Flow::Flow(FrontEnd& codeOfFrontEnd, const QHash<QString, QString>& handlers)
     , components(*this)
     , arrays(*this)
     , lists(*this)
+    , missing(*this)
+    , textValues(*this)
     , delegates(*this)
     , uses(*this)
 {
@@ -68,12 +70,14 @@ void Flow::perform(int number, const CodeOperation& operation, FlowFrame& frame)
     switch (operation.action) {
     case CodeAction::Name:
         return names.connect(operation, frame, number);
+    case CodeAction::Default:
+        return textValues.isUndefined(graph.value(target)) ? graph.connect(frame.slot(operation.left), target) : void();
     case CodeAction::Get:
         return members.get(left, operation.number, target, operation, &frame);
     case CodeAction::GetAt:
         return members.getAt(left, value(operation.right), target, operation, &frame);
     case CodeAction::Set:
-        return right < 0 ? void() : members.set(left, operation.number, right);
+        return members.set(left, operation.number, right);
     case CodeAction::SetAt:
     case CodeAction::SetKey:
         return members.setAt(left, value(operation.right), target);
@@ -87,11 +91,11 @@ void Flow::perform(int number, const CodeOperation& operation, FlowFrame& frame)
     case CodeAction::Import:
         return reader.import(left, operation.number, target, operation, frame);
     case CodeAction::Add:
-        return graph.add(target, builtins.sum(left, value(operation.right)));
+        return graph.add(target, textValues.sum(left, value(operation.right)));
     case CodeAction::Without:
     case CodeAction::Only:
         starter.addComparison(right);
-        return graph.add(target, members.restricted(left, value(operation.right), operation.action));
+        return graph.add(target, textValues.restricted(left, value(operation.right), operation.action));
     default:
         performSpread(operation, frame);
     }

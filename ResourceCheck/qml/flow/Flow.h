@@ -9,11 +9,13 @@
 #include "ResourceCheck/qml/flow/FlowInstances.h"
 #include "ResourceCheck/qml/flow/FlowLists.h"
 #include "ResourceCheck/qml/flow/FlowMembers.h"
+#include "ResourceCheck/qml/flow/FlowMissing.h"
 #include "ResourceCheck/qml/flow/FlowNames.h"
 #include "ResourceCheck/qml/flow/FlowObjects.h"
 #include "ResourceCheck/qml/flow/FlowReader.h"
 #include "ResourceCheck/qml/flow/FlowStarter.h"
 #include "ResourceCheck/qml/flow/FlowTask.h"
+#include "ResourceCheck/qml/flow/FlowTexts.h"
 #include "ResourceCheck/qml/flow/FlowUses.h"
 #include "ResourceCheck/qml/flow/FrontEnd.h"
 
@@ -53,6 +55,8 @@ public:
     FlowComponents components;
     FlowArrays arrays;
     FlowLists lists;
+    FlowMissing missing;
+    FlowTexts textValues;
     FlowDelegates delegates;
     FlowUses uses;
 

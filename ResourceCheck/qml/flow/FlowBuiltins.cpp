@@ -14,7 +14,7 @@ void FlowBuiltins::perform(const QString& name, const FlowCall& call)
     const bool isText = !own.texts.empty();
     const bool isKnown = TextMethod::isKnown(name) || name == QLatin1String("split");
     if (isText && TextMethod::isKnown(name))
-        changeTexts(name, call);
+        flow.textValues.change(name, call);
     if (isText && name == QLatin1String("split"))
         flow.lists.split(call);
     const bool isList = !own.objects.empty();
@@ -25,44 +25,6 @@ void FlowBuiltins::perform(const QString& name, const FlowCall& call)
     if (own.isUnknown || !isText || !isKnown)
         flow.graph.addUnknown(call.target);
     flow.calls.release(call);
-}
-
-FlowValue FlowBuiltins::sum(const FlowValue& left, const FlowValue& right)
-{
-    FlowValue result;
-    if (left.isEmpty() || right.isEmpty())
-        return result;
-    const auto patternsOf = [this](const FlowValue& value) {
-        QVector<QmlPattern> list;
-        for (const int text : value.texts)
-            list.append(flow.texts().pattern(text));
-        if (value.isUnknown || value.texts.empty())
-            list.append(QmlPattern::anything());
-        return list;
-    };
-    const bool areNumbers = !left.texts.empty() && !right.texts.empty() && flow.texts().isNumber(left.texts.front())
-        && flow.texts().isNumber(right.texts.front());
-    const QVector<QmlPattern> lefts = patternsOf(left);
-    const QVector<QmlPattern> rights = patternsOf(right);
-    if (areNumbers || (left.texts.empty() && right.texts.empty())) {
-        result.addUnknown();
-        return result;
-    }
-    const bool isUncertain = lefts.size() > 1 && rights.size() > 1;
-    const bool isTooLarge = lefts.size() * rights.size() > static_cast<int>(4 * FlowValue::maximumTexts);
-    for (const QmlPattern& first : lefts) {
-        for (const QmlPattern& second : rights) {
-            QmlPattern whole = first + (isTooLarge ? QmlPattern::anything() : second);
-            whole.isUncertain |= isUncertain;
-            if (whole.hasText())
-                result.addText(flow.texts().number(whole), flow.texts());
-            else if (!whole.isLiteral())
-                result.addUnknown();
-            if (isTooLarge)
-                break;
-        }
-    }
-    return result;
 }
 
 FlowValue FlowBuiltins::argument(const FlowCall& call, size_t index)
@@ -103,36 +65,6 @@ bool FlowBuiltins::performOnObject(const QString& name, const FlowCall& call)
     else
         return false;
     return true;
-}
-
-void FlowBuiltins::changeTexts(const QString& name, const FlowCall& call)
-{
-    QVector<QVector<QmlPattern>> combinations{{}};
-    for (size_t index = 0; index < call.arguments.size(); ++index) {
-        const FlowValue value = argument(call, index);
-        QVector<QVector<QmlPattern>> longer;
-        for (const QVector<QmlPattern>& combination : qAsConst(combinations)) {
-            for (const int text : value.texts)
-                longer.append(combination + QVector<QmlPattern>{flow.texts().pattern(text)});
-            if (value.texts.empty() || value.isUnknown)
-                longer.append(combination + QVector<QmlPattern>{QmlPattern::anything()});
-        }
-        constexpr int maximum = 64;
-        combinations = longer.mid(0, maximum);
-        if (longer.size() > maximum)
-            flow.graph.addUnknown(call.target);
-    }
-    const FlowValue own = self(call);
-    for (const int text : own.texts) {
-        const QmlPattern pattern = flow.texts().pattern(text);
-        for (const QVector<QmlPattern>& combination : qAsConst(combinations)) {
-            const QmlPattern changed = TextMethod::apply(name, pattern, combination);
-            if (changed.hasText() || changed.isLiteral())
-                flow.graph.addText(call.target, flow.texts().number(changed));
-            else
-                flow.graph.addUnknown(call.target);
-        }
-    }
 }
 
 void FlowBuiltins::assign(const FlowCall& call)

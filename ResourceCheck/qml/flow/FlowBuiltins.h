@@ -20,16 +20,12 @@ public:
     /// Calls the function, for example `Object.keys`, or the method of texts, arrays and objects, for example `map`.
     void perform(const QString& name, const FlowCall& call);
 
-    /// The sums of the texts of both values.
-    FlowValue sum(const FlowValue& left, const FlowValue& right);
-
     /// The values of an argument, or of `this`. The call is repeated when they change.
     FlowValue argument(const FlowCall& call, size_t index);
     FlowValue self(const FlowCall& call);
 
 private:
     bool performOnObject(const QString& name, const FlowCall& call);
-    void changeTexts(const QString& name, const FlowCall& call);
     void assign(const FlowCall& call);
     void callFunction(const QString& name, const FlowCall& call);
 

@@ -50,7 +50,8 @@ void FlowCalls::perform(const CodeOperation& operation, FlowFrame& frame, int ta
     }
     if (!call.isComplete)
         call.arguments.push_back(scratch(call, 0));
-    callAll(frame.slot(operation.left), call);
+    if (operation.left.isValid())
+        callAll(frame.slot(operation.left), call);
 }
 
 void FlowCalls::callAll(int callee, const FlowCall& call, int element)
@@ -60,6 +61,10 @@ void FlowCalls::callAll(int callee, const FlowCall& call, int element)
     if (value.isUnknown) {
         flow.graph.addUnknown(call.target);
         release(call);
+    }
+    for (const int text : value.texts) {
+        if (flow.texts().pattern(text).isUndefined)
+            flow.graph.addText(call.target, text);
     }
     for (const int object : value.objects) {
         if (call.operation->action == CodeAction::New && element < 0)
@@ -79,6 +84,7 @@ void FlowCalls::release(const FlowCall& call)
         for (const int object : value.objects) {
             if (flow.objects.at(object).kind == FlowObject::Function)
                 flow.frames.callUnknown(object);
+            flow.objects.at(object).isOpen = true;
         }
     }
 }
@@ -154,7 +160,9 @@ void FlowCalls::construct(int object, const FlowCall& call)
         flow.graph.addObject(call.target, object);
         callAll(flow.objects.member(object, flow.number(QStringLiteral("constructor"))), constructor, 0);
     } else if (kind == FlowObject::Function) {
-        flow.graph.addObject(call.target, flow.objects.made(call.operation, call.frame, {FlowObject::Literal}));
+        const int made = flow.objects.made(call.operation, call.frame, {FlowObject::Literal});
+        flow.objects.at(made).isOpen = true; // it has the members of the prototype
+        flow.graph.addObject(call.target, made);
         callObject(object, constructor, 0);
     } else {
         flow.graph.addUnknown(call.target);

@@ -12,10 +12,12 @@ int FlowGraph::addSlots(int count)
     return static_cast<int>(first);
 }
 
-void FlowGraph::addText(int slot, int text)
+bool FlowGraph::addText(int slot, int text)
 {
-    if (this->slot(slot).value.addText(text, texts))
+    const bool hasGrown = this->slot(slot).value.addText(text, texts);
+    if (hasGrown)
         grown(slot);
+    return hasGrown;
 }
 
 void FlowGraph::addObject(int slot, int object)

@@ -23,7 +23,7 @@ public:
 
     const FlowValue& value(int slot) const { return slots[static_cast<size_t>(slot)].value; }
 
-    void addText(int slot, int text);
+    bool addText(int slot, int text); // returns whether the slot has grown
     void addObject(int slot, int object);
     void addUnknown(int slot);
     void add(int slot, const FlowValue& value);

@@ -93,8 +93,11 @@ void FlowInstances::bindGroup(int object, const CodeBinding& binding, FlowFrame&
     int slot = flow.objects.member(object, binding.path.first());
     for (int index = 1; index < binding.path.size(); ++index) {
         const bool isLast = index == binding.path.size() - 1;
-        if (flow.names.declared(object, binding.path.first()) == FlowNames::Declared::No)
-            flow.graph.addObject(slot, flow.objects.named(FlowObject::Literal, QString(), slot));
+        if (flow.names.declared(object, binding.path.first()) == FlowNames::Declared::No) {
+            const int group = flow.objects.named(FlowObject::Literal, QString(), slot);
+            flow.objects.at(group).isOpen = true;
+            flow.graph.addObject(slot, group);
+        }
         const int next = isLast ? frame.slot(binding.value) : flow.graph.addSlots(1);
         ownOperations.push_back({isLast ? CodeAction::Set : CodeAction::Get,
                                  {0, next},

@@ -95,7 +95,7 @@ void FlowLists::join(const FlowCall& call)
             const int slot = flow.objects.member(array, flow.number(QString::number(index)));
             flow.graph.watch(slot, call.task);
             const FlowValue part = flow.graph.value(slot);
-            whole = index == 0 ? part : flow.builtins.sum(flow.builtins.sum(whole, separator), part);
+            whole = index == 0 ? part : flow.textValues.sum(flow.textValues.sum(whole, separator), part);
         }
         flow.graph.add(call.target, whole);
     }

@@ -2,8 +2,6 @@
 
 #include "ResourceCheck/qml/flow/Flow.h"
 
-#include <algorithm>
-
 namespace ResourceCheck
 {
 
@@ -21,7 +19,9 @@ bool hasMembers(const FlowObject& object)
 void FlowMembers::get(const FlowValue& base, int name, int target, const CodeOperation& operation, FlowFrame* frame)
 {
     const std::vector<int> objects = base.objects;
-    const bool isText = !base.texts.empty();
+    const bool isText = passUndefined(base, target);
+    if (frame != nullptr)
+        flow.missing.note(operation, name, base, target, flow.uses.place(operation, *frame));
     // Handlers can be reached through objects that are not known, such as the qualifier of a module.
     if (base.isUnknown && !flow.names.connectHandler(flow.name(name), target))
         flow.graph.addUnknown(target);
@@ -34,11 +34,19 @@ void FlowMembers::get(const FlowValue& base, int name, int target, const CodeOpe
 void FlowMembers::getAt(const FlowValue& base, const FlowValue& key, int target, const CodeOperation& operation,
                         FlowFrame* frame)
 {
-    const std::vector<int> objects = base.objects;
-    if (base.isUnknown || (!base.texts.empty() && !key.isEmpty()))
-        flow.graph.addUnknown(target);
     const FlowValue known = key;
-    for (const int object : objects) {
+    const FlowValue owners = base;
+    const bool isText = passUndefined(base, target);
+    if (base.isUnknown)
+        flow.graph.addUnknown(target);
+    if (isText)
+        flow.textValues.addLetters(base, key, target);
+    for (const int text : known.texts) {
+        const QmlPattern& pattern = flow.texts().pattern(text);
+        if (pattern.isLiteral() && pattern.hasText())
+            flow.missing.note(operation, flow.number(pattern.text()), owners, target, pattern.place, text);
+    }
+    for (const int object : owners.objects) {
         const FlowObject::Kind kind = flow.objects.at(object).kind;
         if (kind == FlowObject::Map) {
             flow.uses.record(flow.objects.at(object).name, operation, *frame, {frame->slot(operation.right)}, true);
@@ -52,7 +60,7 @@ void FlowMembers::getAt(const FlowValue& base, const FlowValue& key, int target,
             if (pattern.isLiteral())
                 flow.reader.read(object, flow.number(pattern.text()), target, operation, frame);
         }
-        if (isEveryMember && hasMembers(flow.objects.at(object)))
+        if ((isEveryMember || known.isOfHost) && hasMembers(flow.objects.at(object)))
             flow.graph.connect(flow.objects.all(object), target);
         if (isEveryMember)
             flow.graph.addUnknown(target);
@@ -64,7 +72,7 @@ void FlowMembers::set(const FlowValue& base, int name, int source)
     const std::vector<int> objects = base.objects;
     for (const int object : objects) {
         if (hasMembers(flow.objects.at(object)))
-            flow.graph.connect(source, flow.delegates.member(object, name));
+            write(object, name, source);
     }
 }
 
@@ -78,14 +86,38 @@ void FlowMembers::setAt(const FlowValue& base, const FlowValue& key, int source)
             const QmlPattern pattern = flow.texts().pattern(text);
             isAnyMember |= !pattern.isLiteral();
             if (pattern.isLiteral() && hasMembers(flow.objects.at(object))) {
-                flow.graph.connect(source, flow.delegates.member(object, flow.number(pattern.text())));
+                write(object, flow.number(pattern.text()), source);
                 if (!flow.objects.at(object).keys.contains(text))
                     flow.objects.at(object).keys.append(text);
             }
         }
-        if (isAnyMember && hasMembers(flow.objects.at(object)))
+        flow.objects.at(object).isOpen |= isAnyMember;
+        if (isAnyMember && source >= 0 && hasMembers(flow.objects.at(object)))
             flow.graph.connect(source, flow.objects.any(object));
     }
+}
+
+// `null` has no slot.
+void FlowMembers::write(int object, int name, int source)
+{
+    if (flow.objects.at(object).kind == FlowObject::Literal)
+        flow.objects.at(object).bound.insert(name);
+    if (source >= 0)
+        flow.graph.connect(source, flow.delegates.member(object, name));
+}
+
+// A member of `undefined` is an error on a device. Returns whether there are other texts.
+bool FlowMembers::passUndefined(const FlowValue& base, int target)
+{
+    bool isOther = false;
+    const std::vector<int> texts = base.texts;
+    for (const int text : texts) {
+        if (flow.texts().pattern(text).isUndefined)
+            flow.graph.addText(target, text);
+        else
+            isOther = true;
+    }
+    return isOther;
 }
 
 void FlowMembers::elements(const FlowValue& base, int target)
@@ -121,6 +153,7 @@ void FlowMembers::keys(const FlowValue& base, int target)
 
 void FlowMembers::spread(const FlowValue& base, int object)
 {
+    flow.objects.at(object).isOpen = true; // the sources can get members later
     if (base.isUnknown)
         flow.graph.addUnknown(flow.objects.any(object));
     const std::vector<int> objects = base.objects;
@@ -139,42 +172,6 @@ void FlowMembers::spread(const FlowValue& base, int object)
                 flow.objects.at(object).keys.append(key);
         }
     }
-}
-
-// A value that can be one of several texts may still differ from each of them.
-bool FlowMembers::isKnown(const FlowValue& value, CodeAction action) const
-{
-    const auto isPossible = [&](int number) {
-        const QmlPattern& pattern = flow.texts().pattern(number);
-        return pattern.isLiteral()
-            && (action == CodeAction::Only || pattern.text() == flow.texts().pattern(value.texts.front()).text());
-    };
-    return !value.isUnknown && value.objects.empty() && std::all_of(value.texts.begin(), value.texts.end(), isPossible);
-}
-
-FlowValue FlowMembers::restricted(const FlowValue& value, const FlowValue& other, CodeAction action)
-{
-    const auto isListed = [&](int text) {
-        const QString own = flow.texts().pattern(text).text();
-        return std::any_of(other.texts.begin(), other.texts.end(),
-                           [&](int number) { return flow.texts().pattern(number).text() == own; });
-    };
-    FlowValue result;
-    if (other.isEmpty())
-        return result;
-    if (!isKnown(other, action))
-        return value;
-    result.objects = value.objects;
-    result.isWide = value.isWide;
-    result.isUnknown = value.isUnknown && action == CodeAction::Without;
-    for (const int text : value.texts) {
-        const bool isLiteral = flow.texts().pattern(text).isLiteral();
-        if (!isLiteral || isListed(text) == (action == CodeAction::Only))
-            result.texts.push_back(text);
-    }
-    if (value.isUnknown && action == CodeAction::Only)
-        result.add(other, flow.texts());
-    return result;
 }
 
 } // namespace ResourceCheck

@@ -39,11 +39,9 @@ public:
     /// Copies all members of the objects of base to the object.
     void spread(const FlowValue& base, int object);
 
-    /// The value if it differs from the other one (`Without`) or equals it (`Only`). Nothing if the other one is empty.
-    FlowValue restricted(const FlowValue& value, const FlowValue& other, CodeAction action);
-
 private:
-    bool isKnown(const FlowValue& value, CodeAction action) const;
+    void write(int object, int name, int source);
+    bool passUndefined(const FlowValue& base, int target);
 
     Flow& flow;
 };

@@ -51,7 +51,8 @@ struct FlowObject {
     int any = -1;                                // the slot with values of members whose name is not known
     bool isShared = false;                       // an instance that represents several objects of one component
     QVector<int> keys = {};                      // of an object literal, as texts
-    QSet<int> bound = {};                        // properties of an instance that QML binds
+    QSet<int> bound = {};                        // properties of an instance that QML binds; members of a literal
+    bool isOpen = false;                         // a literal that may have members that are not in `bound`
     QVector<const CodeObject*> definitions = {}; // of an instance, the outermost one first
 };
 

@@ -43,13 +43,26 @@ void FlowStarter::startFiles()
         const bool isRoot = file.unit != nullptr && file.unit->kind == CodeUnit::Component && !file.isSingleton
             && !types.contains(file.unit.get());
         if (isRoot && !file.unit->objects.empty())
-            flow.instances.instantiate(*file.unit, nullptr, nullptr);
+            openToHost(flow.instances.instantiate(*file.unit, nullptr, nullptr));
+    }
+}
+
+void FlowStarter::openToHost(int root)
+{
+    FlowValue ofHost;
+    ofHost.isOfHost = true;
+    const QVector<const CodeObject*> definitions = flow.objects.at(root).definitions;
+    for (const CodeObject* definition : definitions) {
+        for (const CodeProperty& property : definition->properties) {
+            if (!property.isReadonly && !property.isSignal)
+                flow.graph.add(flow.objects.member(root, property.name), ofHost);
+        }
     }
 }
 
 bool FlowStarter::startUnreached()
 {
-    return startUnreachedObjects() || startUnreachedFile() || startComparisons();
+    return startUnreachedObjects() || startUnreachedFile() || startComparisons() || flow.missing.start();
 }
 
 bool FlowStarter::startComparisons()
@@ -114,6 +127,8 @@ void FlowStarter::start(const CodeOperation& operation, FlowFrame& frame)
     case CodeAction::Default:
         if (frame.argumentCount <= operation.number)
             flow.graph.connect(left, slot(operation.target));
+        else
+            flow.addTask({&operation, &frame}, {slot(operation.target)});
         break;
     case CodeAction::Name:
         flow.graph.makeDue(flow.addTask({&operation, &frame}, {}));

@@ -21,7 +21,7 @@ public:
 
     /// Starts code that nothing in the front end starts: signal handlers, functions for others, other components.
     /// Nothing is known about its parameters. At last, nothing is known about what the front end compares with if no
-    /// value reaches it. Returns whether there was any.
+    /// value reaches it, and members that objects lack are undefined. Returns whether there was any.
     bool startUnreached();
 
     /// Performs an operation that never changes, or adds the task for any other.
@@ -31,6 +31,7 @@ public:
     void addComparison(int slot) { compared.insert(slot); }
 
 private:
+    void openToHost(int root);
     void startValue(const CodeOperation& operation, FlowFrame& frame);
     bool startUnreachedFile();
     bool startUnreachedObjects();

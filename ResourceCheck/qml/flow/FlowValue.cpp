@@ -62,6 +62,7 @@ bool FlowValue::addUnknown()
 bool FlowValue::add(const FlowValue& other, CodeTexts& table)
 {
     bool hasGrown = other.isUnknown && addUnknown();
+    hasGrown |= other.isOfHost && !std::exchange(isOfHost, true);
     for (const int text : other.texts)
         hasGrown |= addText(text, table);
     if (objects.empty() && !other.objects.empty()) {

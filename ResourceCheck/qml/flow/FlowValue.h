@@ -15,9 +15,10 @@ struct FlowValue {
     std::vector<int> texts;   // numbers in CodeTexts, ascending
     std::vector<int> objects; // numbers, ascending
     bool isUnknown = false;   // it may also hold anything else
+    bool isOfHost = false;    // it may also hold texts of the host, which choose among what QML has for them
     bool isWide = false;      // the only text is a pattern that covers all texts
 
-    bool isEmpty() const { return texts.empty() && objects.empty() && !isUnknown; }
+    bool isEmpty() const { return texts.empty() && objects.empty() && !isUnknown && !isOfHost; }
 
     // Each returns whether the value has grown.
     bool addText(int text, CodeTexts& table);
