@@ -5,7 +5,6 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextCodec>
 
 namespace
 {
@@ -39,7 +38,7 @@ namespace Gallery::FileFaults
 QStringList ofIni(const QString& path, const QByteArray& content)
 {
     QStringList faults;
-    const ResourceFormat::IniParser parser(content, *QTextCodec::codecForName("UTF-8"));
+    const ResourceFormat::IniParser parser(content);
     for (const ResourceFormat::IniParser::Fault& fault : parser.faults())
         faults.append(QStringLiteral("%1:%2: %3").arg(path).arg(fault.line).arg(fault.reason));
     return faults;

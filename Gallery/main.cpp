@@ -101,7 +101,7 @@ int main(int argc, char* argv[])
         qputenv("QT_FONT_DPI", "96");
     }
     // Draws the same picture on every machine, with or without a GPU.
-    QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
     qInstallMessageHandler(endWithoutDisplay);
     int nameOnly = 1; // Qt would take --display for one of its own options
     const QGuiApplication application(nameOnly, argv);

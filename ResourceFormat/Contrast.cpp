@@ -9,9 +9,7 @@ namespace
 // The color as it is seen on an opaque background.
 QColor blended(const QColor& color, const QColor& background)
 {
-    const auto blend = [alpha = color.alphaF()](double front, double back) {
-        return alpha * front + (1 - alpha) * back;
-    };
+    const auto blend = [alpha = color.alphaF()](auto front, auto back) { return alpha * front + (1 - alpha) * back; };
     return QColor::fromRgbF(blend(color.redF(), background.redF()), blend(color.greenF(), background.greenF()),
                             blend(color.blueF(), background.blueF()));
 }

@@ -16,7 +16,7 @@ constexpr std::size_t firstTableSize = 16;
 
 uint hashOf(const QString& group, const QString& key)
 {
-    return qHash(key, qHash(group, 0));
+    return static_cast<uint>(qHash(key, qHash(group, 0)));
 }
 
 // Inlined; QString's operator== would be two calls into Qt.
@@ -49,7 +49,7 @@ bool IniEntries::append(IniEntry&& entry)
     const uint hash = hashOf(entry.group, entry.key);
     Slot& slot = table[slotOf(hash, entry.group, entry.key)];
     const bool isNew = slot.entry < 0;
-    slot = {hash, entries.size()};
+    slot = {hash, static_cast<int>(entries.size())};
     lastFound = -1;
     entries.append(std::move(entry));
     if (isNew)

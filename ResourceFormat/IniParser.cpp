@@ -1,6 +1,6 @@
 #include "ResourceFormat/IniParser.h"
 
-#include <QTextCodec>
+#include "ResourceFormat/TextDecoder.h"
 
 #include <algorithm>
 
@@ -18,7 +18,7 @@ QString unquoted(QStringView value)
 
 } // namespace
 
-IniParser::IniParser(const QByteArray& content, QTextCodec& codec)
+IniParser::IniParser(const QByteArray& content, const char* codec)
 {
     const QString text = decode(content, codec);
     entryList.reserve(text.count(QLatin1Char('=')));
@@ -53,29 +53,27 @@ const QVector<IniParser::Fault>& IniParser::faults() const
     return faultList;
 }
 
-QString IniParser::decode(const QByteArray& content, QTextCodec& codec)
+QString IniParser::decode(const QByteArray& content, const char* codec)
 {
-    QTextCodec::ConverterState state;
-    const QString text = codec.toUnicode(content.constData(), content.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 ? text : decodeLines(content, codec);
+    TextDecoder decoder(codec);
+    const QString text = decoder.decode(content.constData(), content.size());
+    return decoder.faultCount() == 0 && !decoder.isWithinCharacter() ? text : decodeLines(content, codec);
 }
 
 // Line by line, so that undecodable bytes are reported with their line.
-QString IniParser::decodeLines(const QByteArray& content, QTextCodec& codec)
+QString IniParser::decodeLines(const QByteArray& content, const char* codec)
 {
     QString text;
-    QTextCodec::ConverterState state;
+    TextDecoder decoder(codec);
     int number = 1;
     for (int begin = 0; begin < content.size();) {
         const int newline = content.indexOf('\n', begin);
         const int end = newline < 0 ? content.size() : newline + 1;
-        const int invalidBefore = state.invalidChars;
-        const QString line = codec.toUnicode(content.constData() + begin, end - begin, &state);
-        if (!line.isEmpty())
-            state.flags |= QTextCodec::IgnoreHeader; // a byte-order mark further down is text
-        const bool isCutOff = end == content.size() && state.remainingChars > 0;
-        if (state.invalidChars > invalidBefore || isCutOff)
-            addFault(number, QStringLiteral("bytes that are not valid %1 text").arg(QString::fromLatin1(codec.name())));
+        const int faultsBefore = decoder.faultCount();
+        const QString line = decoder.decode(content.constData() + begin, end - begin);
+        const bool isCutOff = end == content.size() && decoder.isWithinCharacter();
+        if (decoder.faultCount() > faultsBefore || isCutOff)
+            addFault(number, QStringLiteral("bytes that are not valid %1 text").arg(decoder.name()));
         text += line;
         if (isCutOff)
             text += QChar(QChar::ReplacementCharacter);

@@ -8,8 +8,6 @@
 #include <QStringList>
 #include <QVector>
 
-class QTextCodec;
-
 namespace ResourceFormat
 {
 
@@ -32,8 +30,8 @@ public:
     /// Like the parser of an empty file.
     IniParser() = default;
 
-    /// Parses the whole text. The codec is not needed afterwards.
-    IniParser(const QByteArray& content, QTextCodec& codec);
+    /// Parses the whole text. TextDecoder must know the codec.
+    explicit IniParser(const QByteArray& content, const char* codec = "UTF-8");
 
     /// The groups in the order of their first line, including groups without entries.
     const QStringList& groups() const;
@@ -54,8 +52,8 @@ public:
     const QVector<Fault>& faults() const;
 
 private:
-    QString decode(const QByteArray& content, QTextCodec& codec);
-    QString decodeLines(const QByteArray& content, QTextCodec& codec);
+    QString decode(const QByteArray& content, const char* codec);
+    QString decodeLines(const QByteArray& content, const char* codec);
     void parseLine(QStringView line, int number);
     void parseGroupLine(QStringView line, int number);
     void parseEntryLine(QStringView line, int number);

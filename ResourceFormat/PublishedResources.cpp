@@ -7,7 +7,6 @@
 
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QTextCodec>
 
 #include <algorithm>
 
@@ -59,7 +58,7 @@ QString contentProblem(const Directory& directory, const QString& path)
     const QByteArray content = RegularFile::readAllIn(directory.path(), path, reason);
     if (!reason.isNull())
         return QStringLiteral("%1: %2").arg(path, reason);
-    const IniParser parser(content, *QTextCodec::codecForName("UTF-8"));
+    const IniParser parser(content);
     if (parser.faults().isEmpty() || !parser.entries().isEmpty())
         return QString();
     const IniParser::Fault& fault = parser.faults().constFirst();

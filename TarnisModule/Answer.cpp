@@ -9,13 +9,13 @@ namespace TarnisModule::Answer
 
 QDBusVariant of(const QVariant& value, const QString& problem)
 {
-    static const int type = qDBusRegisterMetaType<DBusReply>();
+    qDBusRegisterMetaType<DBusReply>();
     DBusReply reply;
     if (problem.isNull())
         reply.setValue(value);
     else
         reply.setError(ErrorContainer::getDefaultErrorCode(), problem);
-    return QDBusVariant(QVariant(type, &reply));
+    return QDBusVariant(QVariant::fromValue(reply));
 }
 
 } // namespace TarnisModule::Answer

@@ -13,7 +13,6 @@
 #include <QJsonObject>
 #include <QScreen>
 #include <QTemporaryDir>
-#include <QTextCodec>
 
 #include <benchmark/benchmark.h>
 
@@ -136,7 +135,7 @@ void callAll()
 
 void parseIni(const QString& path)
 {
-    benchmark::DoNotOptimize(ResourceFormat::IniParser(read(path), *QTextCodec::codecForName("UTF-8")));
+    benchmark::DoNotOptimize(ResourceFormat::IniParser(read(path)));
 }
 
 void parseJson(const QString& path)

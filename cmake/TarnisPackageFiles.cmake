@@ -10,7 +10,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     file(GLOB_RECURSE texts ${root}/share/man/* ${documents}/changelog.Debian)
     execute_process(COMMAND gzip -9n ${texts} COMMAND_ERROR_IS_FATAL ANY)
     # Programs and the QML module find the library in the system's library directory.
-    file(GLOB programs ${root}/bin/* ${root}/lib/*/tarnis/qml/Tarnis/*.so)
+    file(GLOB programs ${root}/bin/* ${root}/lib/*/tarnis*/qml/Tarnis/*.so)
     foreach(program IN LISTS programs)
         file(RPATH_REMOVE FILE ${program})
     endforeach()

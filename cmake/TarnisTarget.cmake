@@ -16,7 +16,7 @@ function(tarnis_target name)
         QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
     target_compile_options(${name} PRIVATE
         -fno-plt -Wall -Wextra -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
-        $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>
+        ${qt_warnings} $<$<BOOL:${PROJECT_IS_TOP_LEVEL}>:-Werror>
         # File names in log records are relative to this repository.
         -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 endfunction()

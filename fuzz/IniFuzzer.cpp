@@ -4,7 +4,6 @@
 
 #include <QMap>
 #include <QRegularExpression>
-#include <QTextCodec>
 
 namespace
 {
@@ -18,7 +17,7 @@ struct Reading {
 Reading read(const QByteArray& bytes)
 {
     Reading result;
-    const ResourceFormat::IniParser parser(bytes, *QTextCodec::codecForName("UTF-8"));
+    const ResourceFormat::IniParser parser(bytes);
     for (const QString& group : parser.groups()) {
         result.content += group;
         for (const QString& key : parser.keys(group))

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Configures and builds one preset: build.sh dev|release|ci|valgrind|fuzz|aarch64 [TARGET...]
+# Configures and builds one preset: build.sh dev|release|qt6-dev|qt6-release|ci|valgrind|fuzz|aarch64 [TARGET...]
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."

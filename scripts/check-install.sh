@@ -15,13 +15,12 @@ mv "$work/installed" "$prefix"
 foreign=$(grep -rlF -e "$PWD" -e "$work/installed" "$prefix" || true)
 [ -z "$foreign" ] || fail "these installed files contain the build or installation folder: $foreign"
 pkgconfig=$(dirname "$(find "$prefix" -name tarnislibrary.pc)")
-cp -r examples "$work"
 
 start_private_bus
 export XDG_RUNTIME_DIR=$work
 start_service "$prefix/bin/tarnis-module" "$prefix/share/tarnis/resources"
 CMAKE_PREFIX_PATH=$prefix PKG_CONFIG_PATH=$pkgconfig \
-  ./scripts/use-installed.sh "$work/examples" "$work" "$prefix/share/tarnis"
+  ./scripts/use-installed.sh examples "$work" "$prefix/share"
 
 # The QML plugin in a program without a host: on a directory, and on the service.
 imports=$(dirname "$(dirname "$(find "$prefix" -name libtarnisqml.so)")")

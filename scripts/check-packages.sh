@@ -17,9 +17,9 @@ apt-config dump Acquire >build/packages/apt.conf
 shopt -s nullglob
 sources=(/etc/apt/sources.list /etc/apt/sources.list.d/*.list /etc/apt/sources.list.d/*.sources)
 for source in "${sources[@]}"; do [ ! -s "$source" ] || readable+=("$source"); done
-packages=(tarnis-module tarnis-tools libtarnislibrary-dev systemd-standalone-sysusers
-  cmake g++ ninja-build pkg-config qtdeclarative5-dev
-  qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window)
+packages=(tarnis-module tarnis-resource-check tarnis-gallery tarnis-gallery-qt6
+  libtarnislibrary-dev libtarnislibrary-qt6-dev systemd-standalone-sysusers
+  cmake g++ ninja-build pkg-config qtdeclarative5-dev qt6-declarative-dev qt6-declarative-dev-tools)
 mmdebstrap --mode=root --variant=minbase --format=directory --skip=check/empty --aptopt=build/packages/apt.conf \
   --include="$(IFS=,; echo "${packages[*]}")" --dpkgopt='path-exclude=/usr/share/locale/*' \
   bookworm "$root" "${readable[@]}" "deb [trusted=yes] copy:$PWD/build/packages ./" >build/packages/root.log 2>&1 ||

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing:
-# install-dependencies.sh [--lint] [--benchmark] [--valgrind] [--docs] [--package] [--cross] [--browser]
+# install-dependencies.sh [--qt6] [--lint] [--benchmark] [--valgrind] [--docs] [--package] [--cross] [--browser]
+# --qt6 adds Qt 6 beside Qt 5.
 # --lint adds the second compiler with its fuzzing library, the formatter, the linters and the spelling checker.
 # --benchmark adds the benchmark library, the libraries to compare with, and the tools that count and plot.
 # --valgrind adds valgrind.
@@ -21,6 +22,13 @@ packages=(
 )
 for option in "$@"; do
   case $option in
+    --qt6) packages+=(
+      qt6-base-dev qt6-base-private-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-declarative-private-dev libgl-dev
+      qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+      qml6-module-qtquick qml6-module-qtquick-window
+      qml6-module-qtquick-layouts qml6-module-qtquick-templates qml6-module-qtquick-controls qml6-module-qttest
+      libqt6svg6
+    ) ;;
     --lint) packages+=(clang libclang-rt-14-dev clang-format clang-tidy codespell shellcheck) ;;
     --package) packages+=(dpkg-dev file lintian mmdebstrap pahole qt6-declarative-dev-tools qml6-module-qtquick qml6-module-qtquick-window) ;;
     --docs) packages+=(doxygen) ;;

@@ -22,6 +22,7 @@ if [ "$preset" = --valgrind ]; then
   exit
 fi
 options=(--browser)
+[[ $preset != qt6-* ]] || options+=(--qt6)
 [ "$preset" != ci ] || options+=(--lint --benchmark) # clang, and what the benchmarks need
 ./scripts/install-dependencies.sh "${options[@]}"
 ./scripts/build.sh "$preset"

@@ -1,10 +1,16 @@
 #!/usr/bin/env bash
-# Uses an installed tree as another project would: use-installed.sh EXAMPLES WORK_FOLDER DATA_FOLDER
+# Uses an installed tree as another project would: use-installed.sh EXAMPLES WORK_FOLDER DATA_FOLDER [-qt6]
+# -qt6 uses the library for Qt 6.
 # CMAKE_PREFIX_PATH and PKG_CONFIG_PATH name the tree; a service on the system bus publishes the tree's resources.
 set -euo pipefail
 scripts=$(dirname "$0")
 . "$(dirname "$0")/lib/common.sh"
-examples=$1 folder=$2 imports=$3/qml resources=$3/resources
+folder=$2 suffix=${4:-} imports=$3/tarnis${4:-}/qml resources=$3/tarnis/resources
+examples=$folder/examples
+cp -r "$1" "$examples"
+# What a project changes when it moves.
+[ -z "$suffix" ] || sed -i -e 's/Qt5 5.15/Qt6 6.4/' -e 's/Qt5::/Qt6::/' -e 's/(TarnisLibrary /(TarnisLibrary-qt6 /' \
+  "$examples"/*/CMakeLists.txt
 process_log=$folder/host.log
 export QT_FONT_DPI=96 QT_QPA_PLATFORM=minimal QT_QUICK_BACKEND=software
 export QML2_IMPORT_PATH=$imports # the installed types must not hide the module that the program registers
@@ -23,9 +29,9 @@ cat >"$folder/color.cpp" <<'CPP'
 #include <cstdio>
 int main(int, char* arguments[]) { std::puts(qPrintable(TarnisColorHandler(arguments[1]).getColor("Day", "Text"))); }
 CPP
-read -ra flags < <(pkg-config --cflags --libs 'tarnislibrary >= 1.0')
+read -ra flags < <(pkg-config --cflags --libs "tarnislibrary$suffix >= 1.0")
 c++ -std=c++17 -fPIC -o "$folder/color" "$folder/color.cpp" "${flags[@]}" \
-  "-Wl,-rpath,$(pkg-config --variable=libdir tarnislibrary)"
+  "-Wl,-rpath,$(pkg-config --variable=libdir "tarnislibrary$suffix")"
 
 expect '#1f2a37' "$(timeout 60 "$folder/color" "$resources/colors.ini")"
 expect "#1f2a37
@@ -41,7 +47,7 @@ mkdir -p "$folder/product"
 cat >"$folder/product/CMakeLists.txt" <<CMAKE
 cmake_minimum_required(VERSION 3.25)
 project(product LANGUAGES CXX)
-find_package(TarnisLibrary 1.0 CONFIG REQUIRED)
+find_package(TarnisLibrary$suffix 1.0 CONFIG REQUIRED)
 enable_testing()
 tarnis_check_resources(DIR $resources QML $(realpath "$examples/host") ARGUMENTS --rule unused-icon=error)
 CMAKE

@@ -43,7 +43,7 @@ class GalleryColorsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void themesAndPairsAreFoundAndJudged_data() { addRows({"colors", "settings", "search", "rows"}); }
 

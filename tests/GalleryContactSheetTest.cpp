@@ -6,6 +6,16 @@
 namespace Tests
 {
 
+namespace
+{
+
+QRgb colorOf(const QString& name)
+{
+    return static_cast<QRgb>(qHash(name, 0)) | 0xFF000000;
+}
+
+} // namespace
+
 class GalleryContactSheetTest : public QObject
 {
     Q_OBJECT
@@ -50,7 +60,7 @@ private Q_SLOTS:
         Gallery::ContactSheet sheet("title", displays, contexts, languages);
         const QImage picture = sheet.draw([](const QString& display, const QString& context, const QString& language) {
             QImage content(display == "480x320" ? QSize(480, 320) : QSize(1920, 1080), QImage::Format_RGB32);
-            content.fill(qHash(display + context + language, 0) | 0xFF000000);
+            content.fill(colorOf(display + context + language));
             return content;
         });
         QVERIFY(picture.height() <= 8000 && picture.height() > 7900);
@@ -60,8 +70,8 @@ private Q_SLOTS:
                 for (int language = 0; language < languages.size(); ++language) {
                     const QString names = displays.at(display) + contexts.at(context) + languages.at(language);
                     const QRect cell = sheet.cell(display, context, language);
-                    QCOMPARE(picture.pixel(cell.center()), qHash(names, 0) | 0xFF000000);
-                    QCOMPARE(picture.pixel(cell.bottomRight()), qHash(names, 0) | 0xFF000000);
+                    QCOMPARE(picture.pixel(cell.center()), colorOf(names));
+                    QCOMPARE(picture.pixel(cell.bottomRight()), colorOf(names));
                 }
             }
         }

@@ -84,7 +84,7 @@ class GalleryContrastTest : public QObject
     }
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init()
     {

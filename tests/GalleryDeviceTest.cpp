@@ -36,7 +36,7 @@ class GalleryDeviceTest : public QObject
     int drawn(QRgb color) const { return countPixels(gallery->window->grabWindow(), color); }
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init()
     {

@@ -34,7 +34,7 @@ class GalleryEntriesTest : public QObject
     }
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init() { fixture.emplace(); }
 

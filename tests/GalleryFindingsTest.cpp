@@ -35,7 +35,7 @@ class GalleryFindingsTest : public QObject
     }
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init()
     {

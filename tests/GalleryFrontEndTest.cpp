@@ -44,7 +44,7 @@ class GalleryFrontEndTest : public QObject
     }
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init() { files.emplace(); }
 

@@ -55,7 +55,7 @@ class GalleryIconsTest : public QObject
     }
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init() { fixture.emplace(); }
 

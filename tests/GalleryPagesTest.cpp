@@ -26,7 +26,7 @@ private Q_SLOTS:
         writeFile(fixture.path("icons/mapping.json"), QJsonDocument(mapping).toJson());
         writeFile(fixture.path("icons/one.svg"), "<svg xmlns='http://www.w3.org/2000/svg'/>");
         writeFile(fixture.path("colors.ini"), "[A]\nb=red\n");
-        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+        QQuickWindow::setSceneGraphBackend("software");
         gallery.emplace(TarnisUi::directory(fixture.path()));
         QVERIFY(QTest::qWaitForWindowActive(gallery->window));
         QVERIFY(gallery->session.ui.waitUntilReady(10000));

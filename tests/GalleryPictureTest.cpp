@@ -1,5 +1,6 @@
-// The gallery's window, compared with the recorded pictures in tests/pictures/. The name of each picture tells what it
-// shows: PAGE-WxH-THEME.png. After an intended change, run scripts/update-pictures.sh and look at the new pictures.
+// The gallery's window, compared with the recorded pictures in tests/pictures/, or tests/pictures-qt6/ with Qt 6. The
+// name of each picture tells what it shows: PAGE-WxH-THEME.png. After an intended change, run
+// scripts/update-pictures.sh and look at the new pictures.
 
 #include "tests/support/GalleryFixture.h"
 

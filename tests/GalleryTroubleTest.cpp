@@ -16,7 +16,7 @@ class GalleryTroubleTest : public QObject
     std::optional<ResourceCopy> resources;
 
 private Q_SLOTS:
-    static void initTestCase() { QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software); }
+    static void initTestCase() { QQuickWindow::setSceneGraphBackend("software"); }
 
     void init()
     {

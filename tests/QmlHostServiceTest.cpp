@@ -147,7 +147,7 @@ private Q_SLOTS:
         resources->shell("sed -i s/#1f2a37/#fe01fd/ colors.ini");
         startModule();
         QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
-        QCOMPARE((QList<int>{colors.count(), icons.count(), texts.count()}), (QList<int>{1, 0, 1}));
+        QCOMPARE((QList<qsizetype>{colors.count(), icons.count(), texts.count()}), (QList<qsizetype>{1, 0, 1}));
     }
 
     void filesOfTheServiceAreFollowedOnRequest()

@@ -171,7 +171,7 @@ int main(int argc, char* argv[])
 {
     qputenv("QML_DISABLE_DISK_CACHE", "1"); // the files change faster than their times
     qputenv("QTEST_FUNCTION_TIMEOUT", "7200000");
-    QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    QQuickWindow::setSceneGraphBackend("software");
     const QGuiApplication application(argc, argv);
     Tests::RecallTest test;
     const int failures = QTest::qExec(&test, argc, argv);

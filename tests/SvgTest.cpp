@@ -98,11 +98,11 @@ QByteArray randomPicture(QRandomGenerator& random)
     QByteArray picture = "<svg xmlns='s' xmlns:xlink='x' width='24' height='24'>\n";
     QByteArrayList open;
     for (int count = random.bounded(1, 8); count > 0; --count) {
-        QByteArray piece = pieces.at(random.bounded(pieces.size()));
+        QByteArray piece = pieces.at(random.bounded(static_cast<int>(pieces.size())));
         if (random.bounded(8) == 0) {
             piece = "<path d='M1 1";
             for (int parts = random.bounded(12); parts > 0; --parts)
-                piece += pathParts.at(random.bounded(pathParts.size()));
+                piece += pathParts.at(random.bounded(static_cast<int>(pathParts.size())));
             piece += "'/>";
         }
         if (piece.startsWith("</") && (open.isEmpty() || random.bounded(50) > 0))

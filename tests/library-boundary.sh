@@ -5,7 +5,7 @@ set -euo pipefail
 library=$1
 
 needed=$(readelf -d "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
-allowed='libQt5(Core|DBus|Gui)\.so\.5|libstdc\+\+\.so\.6|libgcc_s\.so\.1|libc\.so\.6'
+allowed='libQt([56])(Core|DBus|Gui)\.so\.\2|libstdc\+\+\.so\.6|libgcc_s\.so\.1|libc\.so\.6'
 grep -q libasan <<<"$needed" && allowed+='|lib(asan|ubsan|m)\.so\.[0-9]+' # a build with sanitizers
 foreign=$(grep -vE "^($allowed)\$" <<<"$needed" || true)
 [ -z "$foreign" ] || fail "needs more than Qt and the C++ runtime: $foreign"

@@ -9,8 +9,11 @@ const QLatin1String recordSignature("(bisv)");
 
 // Qt delivers an array of strings as QStringList, which converts to a string. An array must not be taken for text, so
 // it is turned back into a container.
+// Qt 6 delivers an empty array of bytes as null, which would convert to the null string of a failed call.
 QVariant keepContainer(const QVariant& value)
 {
+    if (value.userType() == QMetaType::QByteArray && value.toByteArray().isNull())
+        return QByteArray("");
     if (value.userType() != QMetaType::QStringList)
         return value;
     QDBusArgument array;

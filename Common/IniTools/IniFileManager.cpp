@@ -2,23 +2,23 @@
 
 #include "ResourceFormat/IniParser.h"
 #include "ResourceFormat/RegularFile.h"
+#include "ResourceFormat/TextDecoder.h"
 
 #include <QLoggingCategory>
-#include <QTextCodec>
 
 namespace
 {
 
 Q_LOGGING_CATEGORY(platformIni, "platform.ini")
 
-QTextCodec& codecForName(const char* name)
+const char* knownCodec(const char* name)
 {
-    if (name != nullptr) {
-        if (QTextCodec* codec = QTextCodec::codecForName(name))
-            return *codec;
-        qCWarning(platformIni).nospace() << "Unknown text codec \"" << name << "\", reading as UTF-8";
-    }
-    return *QTextCodec::codecForName("UTF-8");
+    if (name == nullptr)
+        return "UTF-8";
+    if (ResourceFormat::TextDecoder::knows(name))
+        return name;
+    qCWarning(platformIni).nospace() << "Unknown text codec \"" << name << "\", reading as UTF-8";
+    return "UTF-8";
 }
 
 ResourceFormat::IniParser read(const QString& path, const char* codec)
@@ -29,7 +29,7 @@ ResourceFormat::IniParser read(const QString& path, const char* codec)
         qCWarning(platformIni).noquote().nospace() << "Cannot read \"" << path << "\": " << reason;
         return {};
     }
-    ResourceFormat::IniParser parser(content, codecForName(codec));
+    ResourceFormat::IniParser parser(content, knownCodec(codec));
     for (const ResourceFormat::IniParser::Fault& fault : parser.faults())
         qCWarning(platformIni).noquote().nospace() << path << ':' << fault.line << ": " << fault.reason;
     return parser;

@@ -114,7 +114,8 @@ QSize ContactSheet::sizeAt(double contentScale) const
     ContactSheet sheet(*this);
     sheet.scale = contentScale;
     const int right = sheet.columnX(displays.size() - 1, contexts.size()) - gap + margin;
-    return {right, headerHeight + languages.size() * (sheet.rowHeight() + gap) - gap + margin};
+    const int rows = static_cast<int>(languages.size());
+    return {right, headerHeight + rows * (sheet.rowHeight() + gap) - gap + margin};
 }
 
 void ContactSheet::drawLabels(QPainter& painter) const

@@ -1,6 +1,7 @@
 #include "Gallery/compare/Pictures.h"
 
-#include <QFontDatabase>
+#include "ResourceFormat/QtVersion.h"
+
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QImageReader>
@@ -61,7 +62,7 @@ QImage fontSample(const QString& family, double pixels)
 
 QString usedFamily(const QString& family)
 {
-    const bool isInstalled = QFontDatabase().families().contains(family, Qt::CaseInsensitive);
+    const bool isInstalled = ResourceFormat::QtVersion::fontFamilies().contains(family, Qt::CaseInsensitive);
     return isInstalled ? family : QFontInfo(QFont(family)).family();
 }
 

@@ -12,7 +12,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextCodec>
 
 #include <tuple>
 
@@ -28,7 +27,7 @@ namespace
 QVector<IniEntry> iniEntries(const QString& path)
 {
     QString reason;
-    return IniParser(RegularFile::readAll(path, reason), *QTextCodec::codecForName("UTF-8")).entries();
+    return IniParser(RegularFile::readAll(path, reason)).entries();
 }
 
 QString nameOf(const IniEntry& entry)

@@ -1,13 +1,14 @@
 #include "Gallery/frontend/FileRecorder.h"
 
 #include "QmlHost/Fingerprint.h"
+#include "ResourceFormat/QtVersion.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
 #include <QImageReader>
-#include <QLibraryInfo>
 #include <QMutexLocker>
+#include <QQmlEngine>
 
 namespace Gallery
 {
@@ -22,9 +23,18 @@ bool isPicture(const QString& path)
 
 } // namespace
 
+void FileRecorder::follow(QQmlEngine& engine)
+{
+#if QT_VERSION_MAJOR < 6
+    engine.setUrlInterceptor(this);
+#else
+    engine.addUrlInterceptor(this);
+#endif
+}
+
 QUrl FileRecorder::intercept(const QUrl& url, DataType type)
 {
-    static const QString modules = QLibraryInfo::location(QLibraryInfo::Qml2ImportsPath);
+    static const QString modules = ResourceFormat::QtVersion::qmlModules();
     const QString path = QDir::cleanPath(url.toLocalFile());
     if (path.isEmpty() || path.startsWith(modules))
         return url;

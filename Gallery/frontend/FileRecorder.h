@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QUrl>
 
+class QQmlEngine;
+
 namespace Gallery
 {
 
@@ -18,6 +20,9 @@ namespace Gallery
 class FileRecorder : public QQmlAbstractUrlInterceptor
 {
 public:
+    /// Notes the files of this engine, which must not outlive the recorder.
+    void follow(QQmlEngine& engine);
+
     QUrl intercept(const QUrl& url, DataType type) override;
 
     /// The paths of the files, including missing ones and without those of the modules installed with Qt. Sorted.

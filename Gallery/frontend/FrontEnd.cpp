@@ -19,7 +19,7 @@ namespace Gallery
 
 FrontEnd::FrontEnd(const QUrl& url, const QSize& displaySize, const QVariantMap& properties)
 {
-    engine.setUrlInterceptor(&recorder);
+    recorder.follow(engine);
     connect(&engine, &QQmlEngine::warnings, this, [this](const QList<QQmlError>& found) { warnings += found; });
     QQmlComponent component(&engine, url);
     if (component.isReady())

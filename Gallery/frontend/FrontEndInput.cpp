@@ -1,5 +1,7 @@
 #include "Gallery/frontend/FrontEndInput.h"
 
+#include "Gallery/frontend/PointerEvents.h"
+
 #include <QCoreApplication>
 #include <QQuickWindow>
 #include <QScopedValueRollback>
@@ -36,11 +38,11 @@ bool FrontEndInput::pass(QEvent& event, QQuickWindow& window, double scale)
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
-        passMouse(static_cast<QMouseEvent&>(event), window);
+        PointerEvents::send(static_cast<QMouseEvent&>(event), window, factor);
         return true;
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
-        passHover(static_cast<QHoverEvent&>(event), window);
+        PointerEvents::send(static_cast<QHoverEvent&>(event), window, factor);
         return true;
     case QEvent::HoverLeave: {
         QEvent leave(QEvent::Leave);
@@ -52,7 +54,7 @@ bool FrontEndInput::pass(QEvent& event, QQuickWindow& window, double scale)
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
     case QEvent::TouchCancel:
-        passTouch(static_cast<QTouchEvent&>(event), window);
+        PointerEvents::send(static_cast<QTouchEvent&>(event), window, factor);
         return true;
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -67,22 +69,6 @@ bool FrontEndInput::pass(QEvent& event, QQuickWindow& window, double scale)
     }
 }
 
-void FrontEndInput::passMouse(const QMouseEvent& event, QQuickWindow& window)
-{
-    const QPointF position = factor * event.localPos();
-    QMouseEvent passed(event.type(), position, position, event.screenPos(), event.button(), event.buttons(),
-                       event.modifiers());
-    passed.setTimestamp(event.timestamp());
-    QCoreApplication::sendEvent(&window, &passed);
-}
-
-void FrontEndInput::passHover(const QHoverEvent& event, QQuickWindow& window)
-{
-    QMouseEvent move(QEvent::MouseMove, event.posF(), Qt::NoButton, Qt::NoButton, event.modifiers());
-    move.setTimestamp(event.timestamp());
-    passMouse(move, window);
-}
-
 // A front end that scrolls no further lets the page scroll.
 bool FrontEndInput::passWheel(const QWheelEvent& event, QQuickWindow& window)
 {
@@ -91,23 +77,6 @@ bool FrontEndInput::passWheel(const QWheelEvent& event, QQuickWindow& window)
     passed.setTimestamp(event.timestamp());
     QCoreApplication::sendEvent(&window, &passed);
     return passed.isAccepted();
-}
-
-void FrontEndInput::passTouch(const QTouchEvent& event, QQuickWindow& window)
-{
-    QList<QTouchEvent::TouchPoint> points = event.touchPoints();
-    for (QTouchEvent::TouchPoint& point : points) {
-        point.setStartPos(factor * point.startPos());
-        point.setLastPos(factor * point.lastPos());
-        point.setPos(factor * point.pos());
-        point.setStartScenePos(point.startPos());
-        point.setLastScenePos(point.lastPos());
-        point.setScenePos(point.pos());
-    }
-    QTouchEvent passed(event.type(), event.device(), event.modifiers(), event.touchPointStates(), points);
-    passed.setWindow(&window);
-    passed.setTimestamp(event.timestamp());
-    QCoreApplication::sendEvent(&window, &passed);
 }
 
 bool FrontEndInput::passKey(QKeyEvent& event, QQuickWindow& window)

@@ -4,12 +4,9 @@
 #include <QPointF>
 #include <QSet>
 
-class QHoverEvent;
 class QKeyEvent;
-class QMouseEvent;
 class QQuickItem;
 class QQuickWindow;
-class QTouchEvent;
 class QWheelEvent;
 
 namespace Gallery
@@ -23,10 +20,7 @@ public:
     bool pass(QEvent& event, QQuickWindow& window, double scale);
 
 private:
-    void passMouse(const QMouseEvent& event, QQuickWindow& window);
-    void passHover(const QHoverEvent& event, QQuickWindow& window);
     bool passWheel(const QWheelEvent& event, QQuickWindow& window);
-    void passTouch(const QTouchEvent& event, QQuickWindow& window);
     bool passKey(QKeyEvent& event, QQuickWindow& window);
 
     double factor = 1;

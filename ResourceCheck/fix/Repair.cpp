@@ -15,9 +15,8 @@ namespace
 // The JSON string that begins in the column, without its quotation marks and with its escapes.
 QRegularExpressionMatch stringAt(const QString& line, int column)
 {
-    static const QRegularExpression string(QStringLiteral("\"((?:[^\"\\\\]|\\\\.)*)\""));
-    return string.match(line, std::max(0, column - 1), QRegularExpression::NormalMatch,
-                        QRegularExpression::AnchoredMatchOption);
+    static const QRegularExpression string(QStringLiteral("\\G\"((?:[^\"\\\\]|\\\\.)*)\""));
+    return string.match(line, std::max(0, column - 1));
 }
 
 std::optional<LineEdit> withString(const Finding& finding, QString line, const QString& content)

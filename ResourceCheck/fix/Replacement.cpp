@@ -18,7 +18,8 @@ Replacement Replacement::of(const LineEdit& edit, const QString& line, bool isLa
     // Both halves of a surrogate pair change.
     begin -= begin > 0 && line.at(begin - 1).isHighSurrogate() ? 1 : 0;
     end -= end > 0 && line.at(line.size() - end).isLowSurrogate() ? 1 : 0;
-    return {edit.line, begin + 1, edit.line, line.size() - end + 1, text.mid(begin, text.size() - end - begin)};
+    const int lineEnd = static_cast<int>(line.size()) - end + 1;
+    return {edit.line, begin + 1, edit.line, lineEnd, text.mid(begin, text.size() - end - begin)};
 }
 
 } // namespace ResourceCheck

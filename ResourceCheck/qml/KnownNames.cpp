@@ -57,7 +57,7 @@ int maximumDistance(const QString& name)
 {
     int longest = 0;
     for (const QString& part : name.split(QLatin1Char('/')))
-        longest = std::max(longest, part.size());
+        longest = std::max(longest, static_cast<int>(part.size()));
     return longest / 3;
 }
 

@@ -2,8 +2,6 @@
 
 #include "ResourceFormat/RegularFile.h"
 
-#include <QTextCodec>
-
 namespace ResourceCheck
 {
 
@@ -27,9 +25,8 @@ IniFile::IniFile(const QString& path)
     : filePath(path)
 {
     const QByteArray content = ResourceFormat::RegularFile::readAll(path, readProblem);
-    QTextCodec& codec = *QTextCodec::codecForName("UTF-8");
-    lines = codec.toUnicode(content).split(QLatin1Char('\n'));
-    parser = IniParser(content, codec);
+    lines = QString::fromUtf8(content).split(QLatin1Char('\n'));
+    parser = IniParser(content);
 }
 
 QVector<IniEntry> IniFile::effectiveEntries() const

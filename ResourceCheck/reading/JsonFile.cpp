@@ -13,9 +13,9 @@ namespace
 
 Place placeAfter(const QByteArray& before, const QString& path)
 {
-    const int line = before.count('\n') + 1;
+    const auto line = before.count('\n') + 1;
     const QByteArray lineBefore = before.mid(before.lastIndexOf('\n') + 1);
-    return {path, line, QString::fromUtf8(lineBefore).size() + 1};
+    return {path, static_cast<int>(line), static_cast<int>(QString::fromUtf8(lineBefore).size()) + 1};
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 #include "ResourceCheck/Project.h"
 #include "ResourceCheck/rules/Rule.h"
+#include "ResourceFormat/QtVersion.h"
 #include "TarnisLibrary/DeviceUiResourcesLibrary/TarnisFontHandler.h"
-
-#include <QFontDatabase>
 
 #include <cmath>
 
@@ -32,7 +31,7 @@ void checkFamilyIsGiven(const Project& project, const Report& report)
 void checkFamilyIsInstalled(const Project& project, const Report& report)
 {
     const IniFile& file = project.resources.fonts;
-    const QStringList installed = QFontDatabase().families();
+    const QStringList installed = ResourceFormat::QtVersion::fontFamilies();
     for (const IniEntry& entry : file.effectiveEntries()) {
         if (entry.key == TarnisFontHandler::familyKey && !installed.contains(entry.value, Qt::CaseInsensitive)) {
             report(file.valuePlace(entry),

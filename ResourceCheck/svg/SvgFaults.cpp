@@ -31,10 +31,10 @@ QVector<SvgFault> SvgFaults::located(const QString& path, const QByteArray& cont
     int lineEnd = text.indexOf(QLatin1Char('\n'));
     for (SvgFault& fault : faults) {
         fault.place.path = path;
-        const int end = std::min(static_cast<int>(fault.offset), text.size());
+        const int end = static_cast<int>(std::min<qint64>(fault.offset, text.size()));
         if (end == 0)
             continue;
-        const int begin = std::max(0, text.lastIndexOf(QLatin1Char('<'), end - 1));
+        const int begin = std::max(0, static_cast<int>(text.lastIndexOf(QLatin1Char('<'), end - 1)));
         for (; lineEnd >= 0 && lineEnd < begin; ++line) {
             lineBegin = lineEnd + 1;
             lineEnd = text.indexOf(QLatin1Char('\n'), lineBegin);

@@ -15,7 +15,7 @@ QString SvgImage::fault(const QString& url)
     const int begin = url.lastIndexOf(marker);
     QByteArray data;
     if (begin >= 0)
-        data = QByteArray::fromBase64(url.midRef(begin + marker.size()).toLatin1());
+        data = QByteArray::fromBase64(QStringView(url).mid(begin + marker.size()).toLatin1());
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
     if (reader.format().startsWith("svg"))

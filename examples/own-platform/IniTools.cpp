@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QMap>
 #include <QStringList>
-#include <QTextStream>
 
 class IniFileManager::Private
 {
@@ -19,18 +18,16 @@ namespace
 {
 
 template <typename Entries>
-Entries read(const QString& path, const char* codec)
+Entries read(const QString& path)
 {
     Entries entries;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return entries;
-    QTextStream text(&file);
-    text.setCodec(codec == nullptr ? "UTF-8" : codec);
     QString group;
-    while (!text.atEnd()) {
-        const QString line = text.readLine().trimmed();
-        const int separator = line.indexOf('=');
+    while (!file.atEnd()) {
+        const QString line = QString::fromUtf8(file.readLine()).trimmed();
+        const auto separator = line.indexOf('=');
         if (line.startsWith('[') && line.endsWith(']')) {
             group = line.mid(1, line.size() - 2);
             entries.groups.append(group);
@@ -45,8 +42,8 @@ Entries read(const QString& path, const char* codec)
 
 } // namespace
 
-IniFileManager::IniFileManager(const QString& path, const char* codec)
-    : d(new Private(read<Private>(path, codec)))
+IniFileManager::IniFileManager(const QString& path, const char* /*codec*/) // the library's files are UTF-8
+    : d(new Private(read<Private>(path)))
 {
 }
 

@@ -36,7 +36,7 @@ Item {
         function test_labelFitsInEveryLanguage(data) {
             Ui.language = data.language
             const button = createTemporaryObject(cancelButton, this)
-            compare(button.height, 48)
+            verify(button.height >= 40, "too small for a finger")
             verify(button.label.text !== "")
             verify(button.label.implicitHeight > 0 && button.label.implicitHeight <= button.height)
             compare(button.color, "#0b7a75")

@@ -2,7 +2,6 @@
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTextCodec>
 
 namespace Tests
 {
@@ -33,7 +32,7 @@ public:
     }
 
 private:
-    int positionIn(const QByteArray& content) { return random.bounded(content.size() + 1); }
+    int positionIn(const QByteArray& content) { return random.bounded(static_cast<int>(content.size()) + 1); }
 
     QByteArray truncated(const QByteArray& content) { return content.left(positionIn(content)); }
 
@@ -118,7 +117,8 @@ private:
         static const QVector<int> depths{10, 500, 1024, 1025, 3000, 30000};
         const QByteArrayList pair = oneOf(brackets);
         const int depth = oneOf(depths);
-        const int place = qMax(0, content.indexOf(pair.at(0) == "<g>" ? "<path" : ": ", positionIn(content)));
+        const int place =
+            qMax(0, static_cast<int>(content.indexOf(pair.at(0) == "<g>" ? "<path" : ": ", positionIn(content))));
         return content.insert(place, pair.at(0).repeated(depth) + "1" + pair.at(1).repeated(depth));
     }
 
@@ -131,7 +131,7 @@ private:
         const QString text = QString::fromUtf8(content);
         switch (random.bounded(6)) {
         case 0:
-            return QTextCodec::codecForName("UTF-16")->fromUnicode(text);
+            return "\xff\xfe" + QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
         case 1:
             return text.toLatin1();
         case 2:
@@ -147,7 +147,7 @@ private:
     QByteArray repeated(const QByteArray& content)
     {
         static const QVector<int> counts{2, 20, 1000};
-        return content.repeated(qMin(oneOf(counts), (1 << 16) / qMax(1, content.size()) + 1));
+        return content.repeated(qMin(oneOf(counts), (1 << 16) / qMax(1, static_cast<int>(content.size())) + 1));
     }
 
     QRandomGenerator& random;

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "tests/support/DBusValue.h"
-
-#include <QDBusMetaType>
+#include "tests/support/QtVersion.h"
 
 namespace Tests
 {
@@ -58,7 +57,7 @@ struct DBusValueMaker {
         room -= type == 'v' ? 50 : 1;
         if (value.isNumber()) {
             value.basic = type == 'd' ? QVariant(static_cast<double>(source.bits()) / 3) : QVariant(source.bits());
-            value.basic.convert(QDBusMetaType::signatureToType(signature));
+            convertToSignature(value.basic, signature);
         } else if (signature == "ay") {
             value.basic = QByteArray(source.below(9), isOneIn(2) ? 'x' : '\xff');
         } else if (signature.size() == 1 && type != 'v') {

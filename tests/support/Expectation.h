@@ -2,6 +2,7 @@
 
 #include "tests/support/DBusValue.h"
 #include "tests/support/Getters.h"
+#include "tests/support/QtVersion.h"
 
 namespace Tests
 {
@@ -44,11 +45,11 @@ struct Expectation {
     }
 
 private:
-    // Null if Qt does not convert the value to a string. It converts numbers except bytes, text and byte arrays.
+    // Null if Qt does not convert the value to a string. It converts numbers, text and byte arrays; Qt 6 also bytes.
     static QString textOf(const DBusValue& value)
     {
-        const bool isText =
-            (value.isNumber() && value.signature != "y") || value.signature == "s" || value.signature == "ay";
+        const bool isText = (value.isNumber() && (bytesAreText || value.signature != "y")) || value.signature == "s"
+            || value.signature == "ay";
         return isText ? value.basic.toString() + "" : QString(); // an empty text is not null
     }
 

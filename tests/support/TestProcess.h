@@ -1,8 +1,9 @@
 #pragma once
 
+#include "tests/support/QtVersion.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 
 #include <csignal>
 #include <sys/prctl.h>
@@ -12,7 +13,12 @@ namespace Tests
 
 /// A child process that ends when the test does, even if the test is killed. Qt starts the process of a derived class
 /// with fork(), but that of QProcess itself with a system call that the emulator does not know.
-struct Child : QProcess {
+struct Child : PreparedProcess {
+    Child()
+        : PreparedProcess([] { prctl(PR_SET_PDEATHSIG, SIGKILL); })
+    {
+    }
+
     /// Starts a program. Programs of this build are given as paths; they are emulated if built for another machine.
     void launch(const QString& program, const QStringList& arguments)
     {
@@ -23,7 +29,6 @@ struct Child : QProcess {
         const QString first = command.takeFirst();
         start(first, command + arguments);
     }
-    void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
 };
 
 /// Starts a program, whose errors go to a file, and waits for the first line that it prints. Kills it in the end.

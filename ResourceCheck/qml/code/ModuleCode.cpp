@@ -82,7 +82,7 @@ void writeExport(const ExportDeclaration* declaration, CodeBuilder& builder)
 {
     const QString module =
         declaration->fromClause == nullptr ? QString() : declaration->fromClause->moduleSpecifier.toString();
-    if (declaration->exportAll)
+    if (declaration->fromClause != nullptr && declaration->exportClause == nullptr)
         builder.unit.reexported.append(module);
     if (Node* value = declaration->variableStatementOrDeclaration) {
         if (declaration->exportDefault) {

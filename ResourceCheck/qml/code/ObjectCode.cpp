@@ -3,6 +3,7 @@
 #include "ResourceCheck/qml/code/ComponentCode.h"
 #include "ResourceCheck/qml/code/ExpressionCode.h"
 #include "ResourceCheck/qml/code/FunctionCode.h"
+#include "ResourceCheck/qml/code/ParserVersion.h"
 #include "ResourceCheck/qml/code/StatementCode.h"
 
 #include <private/qqmljsast_p.h>
@@ -63,7 +64,7 @@ void ObjectCode::writeProperty(UiPublicMember* property, int owner)
     const bool isAlias = property->memberType != nullptr
         && ComponentCode::names(property->memberType) == QStringList{QStringLiteral("alias")};
     // `required title` without a type refers to a property of the base type.
-    object(owner).properties.append({builder.number(name), property->isRequired, false, property->isReadonlyMember});
+    object(owner).properties.append({builder.number(name), isRequired(*property), false, isReadonly(*property)});
     const bool isComponent = property->memberType != nullptr
         && ComponentCode::names(property->memberType).last() == QLatin1String("Component");
     if (property->statement != nullptr)
