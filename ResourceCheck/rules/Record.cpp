@@ -40,12 +40,12 @@ QVector<Record> libraryRecords()
         announced(library, "Icon file \"…\" does not exist",
                   QStringLiteral("icon-missing-file icon-outside icon-case")),
         announced(library, "Failed to parse icon mapping json! Invalid json.",
-                  QStringLiteral("icon-json file-unreadable")),
+                  QStringLiteral("icon-json file-unreadable file-link")),
         announced(library, "Failed to parse icon mapping json! Ivalid json.", QStringLiteral("icon-json")),
         announced(library, "Failed to parse icon mapping json! Expected relative path to be of type string.",
                   QStringLiteral("icon-json")),
         announced(library, "Unable to create object icon base path directory does not exist",
-                  QStringLiteral("file-unreadable")),
+                  QStringLiteral("file-unreadable file-link")),
         unknowable(library, "Unable to get primary screen!", ofScreen),
         unknowable(library, "Cannot read pointer to primary screen!", ofScreen),
         unknowable(library, "Fetching … failed with the follwoing error: \"…\"",
@@ -60,7 +60,7 @@ QVector<Record> platformRecords()
     const QString iniSyntax = QStringLiteral("ini-syntax");
     const QString textJson = QStringLiteral("text-json");
     return {
-        announced(platform, "Cannot read \"…\": …", QStringLiteral("file-unreadable text-no-fallback")),
+        announced(platform, "Cannot read \"…\": …", QStringLiteral("file-unreadable file-link text-no-fallback")),
         announced(platform, "…:…: duplicate key \"…\" in group \"…\"; the last value is used", iniSyntax),
         announced(platform, "…:…: group line without a closing \"]\"; entries up to the next group are ignored",
                   iniSyntax),
