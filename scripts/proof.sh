@@ -20,7 +20,7 @@ page=docs/proof.md
 record() {
   local commit row
   commit=$(git rev-parse --short=10 HEAD)
-  git diff --quiet HEAD || commit+=' with changes'
+  git diff --quiet HEAD -- ":!$page" || commit+=' with changes'
   row="| $1 | $2 | \`./scripts/proof.sh $1\` | $commit | $(date +%F) |"
   awk -v part="| $1 |" -v row="$row" '
     index($0, part) == 1 { next }
