@@ -26,11 +26,16 @@ bool isScript(const QXmlStreamAttribute& attribute)
 }
 
 // Qt does not look at the unit.
-bool isPenWidth(const QString& value)
+double numberAtBegin(const QString& value)
 {
     static const QRegularExpression number(QStringLiteral("^[+-]?[0-9.]+(?:[eE][+-]?[0-9]+)?"));
+    return number.match(value.trimmed()).captured().toDouble();
+}
+
+bool isPenWidth(const QString& value)
+{
     constexpr double limit = 1 << 15;
-    const double width = number.match(value.trimmed()).captured().toDouble();
+    const double width = numberAtBegin(value);
     return width >= 0 && width < limit;
 }
 
@@ -116,18 +121,23 @@ bool SvgElementCheck::checkPaint()
         add(Kind::Structure, QStringLiteral("\"%1\" is not a color; set solid-color to #rrggbb").arg(color));
         return false;
     }
-    if (element.role == Role::Gradient)
-        checkRadialGradient();
+    if (element.role == Role::Gradient && !checkRadialGradient())
+        return false;
     const QString link = element.role == Role::Gradient ? element.linkedId() : QString();
     if (element.role != Role::Font && !paints.define(id, link, element.offset))
         add(Kind::Structure, QStringLiteral("duplicate ID \"%1\"; rename one of the two").arg(id));
     return true;
 }
 
-void SvgElementCheck::checkRadialGradient()
+bool SvgElementCheck::checkRadialGradient()
 {
     if (element.name != QLatin1String("radialGradient"))
-        return;
+        return true;
+    // Qt 5 draws such a gradient with the radius 0.5.
+    if (QT_VERSION_MAJOR >= 6 && numberAtBegin(element.attribute("r")) <= 0) {
+        add(Kind::Structure, QStringLiteral("Qt ignores a <radialGradient> without a radius; add r=\"0.5\""));
+        return false;
+    }
     for (const char* name : {"cx", "cy", "r", "fx", "fy"}) {
         if (element.attribute(name).endsWith(QLatin1Char('%'))) {
             addOnce(Kind::Ignored, QStringLiteral("radialGradient"),
@@ -135,6 +145,7 @@ void SvgElementCheck::checkRadialGradient()
                         .arg(QLatin1String(name), element.attribute(name)));
         }
     }
+    return true;
 }
 
 void SvgElementCheck::checkProperties(const QVector<SvgProperty>& properties)

@@ -31,7 +31,7 @@ public:
     void checkProperties(const QVector<SvgProperty>& properties);
 
 private:
-    void checkRadialGradient();
+    bool checkRadialGradient();
     void add(SvgFault::Kind kind, const QString& message) { faults.add(kind, element.offset, message); }
     void addOnce(SvgFault::Kind kind, const QString& key, const QString& message)
     {
