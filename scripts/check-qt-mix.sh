@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Checks that hosts and services work together that are built with Qt 5 and with Qt 6:
-# check-qt-mix.sh [BUILD_FOLDER_OF_QT5 BUILD_FOLDER_OF_QT6]
+# Checks that hosts and services work together that are built with Qt 5 and with Qt 6: check-qt-mix.sh
 # Each gallery asks each service for all resources: for sound ones, for faulty ones and for missing ones.
 set -euo pipefail
 . "$(dirname "$0")/lib/common.sh"
 cd "$(dirname "$0")/.."
-qt5=${1:-build/dev} qt6=${2:-build/qt6-dev}
+./scripts/install-dependencies.sh --qt6
+presets=(dev qt6-dev)
+for preset in "${presets[@]}"; do ./scripts/build.sh "$preset" tarnis-module tarnis-gallery; done
 create_work_folder
 export QT_QPA_PLATFORM=minimal QT_FONT_DPI=96 ASAN_OPTIONS=detect_leaks=0
 
@@ -17,19 +18,20 @@ rm "$work/faulty/fonts.ini"
 mv "$work/faulty/dimensions" "$work/faulty/sizes"
 start_private_bus
 
-# What the gallery of the second build prints about the resources that the service of the first build publishes.
-answers() { # SERVICE_BUILD HOST_BUILD DIRECTORY
+# What the gallery of one preset prints about the resources that the service of another one publishes:
+# answers PRESET_OF_SERVICE PRESET_OF_HOST DIRECTORY
+answers() {
   local service
-  start_service "$1/TarnisModule/tarnis-module" "$work/$3"
+  start_service "build/$1/TarnisModule/tarnis-module" "$work/$3"
   service=${processes[-1]}
-  timeout 60 "$(find "$2/Gallery" -maxdepth 1 -type f -name 'tarnis-gallery*')" --dump 2>&1 || echo "exit status $?"
+  timeout 60 "$(find "build/$2/Gallery" -maxdepth 1 -type f -name 'tarnis-gallery*')" --dump 2>&1 || echo "exit status $?"
   stop "$service" >&2 || true
 }
 
 for directory in sound faulty missing; do
   expected=''
-  for service in "$qt5" "$qt6"; do
-    for host in "$qt5" "$qt6"; do
+  for service in "${presets[@]}"; do
+    for host in "${presets[@]}"; do
       answers "$service" "$host" "$directory" >"$work/answers"
       [ -n "$expected" ] || { expected=$work/expected-$directory && cp "$work/answers" "$expected"; }
       diff "$expected" "$work/answers" ||
