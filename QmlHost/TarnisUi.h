@@ -41,8 +41,8 @@ public:
     /// this process may read.
     static std::unique_ptr<QmlHost::Source> service(Files files = Files::Ignored);
 
-    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed. Files that links
-    /// lead out of the directory to are not offered; problem() names them.
+    /// A resource directory, without a bus, read by the rules of the service. Its changes are followed. Files that
+    /// links lead out of the directory to are not offered; problem() names them.
     static std::unique_ptr<QmlHost::Source> directory(const QString& path);
 
     /// Starts to ask. The texts come from the directory `texts` beside the color file, or from `textManager`, which the
