@@ -21,7 +21,7 @@ public:
 
     QString decode(const char* bytes, int size)
     {
-        const QString text = codec->toUnicode(bytes, size, &state);
+        QString text = codec->toUnicode(bytes, size, &state);
         if (!text.isEmpty())
             state.flags |= QTextCodec::IgnoreHeader; // a byte-order mark further down is text
         return text;
