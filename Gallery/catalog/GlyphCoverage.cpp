@@ -42,7 +42,8 @@ GlyphCoverage GlyphCoverage::of(const QRawFont& family, const TextColumn& texts)
                  [&](uint character) { return !family.supportsCharacter(character); });
     for (const uint character : qAsConst(missingCharacters))
         coverage.missing.append(describe(character));
-    coverage.findSubstitutes(family.familyName(), missingCharacters);
+    // Without fonts, Qt 6 would read the name of an invalid one.
+    coverage.findSubstitutes(family.isValid() ? family.familyName() : QString(), missingCharacters);
     return coverage;
 }
 
