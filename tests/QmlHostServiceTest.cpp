@@ -3,36 +3,12 @@
 #include "QmlHost/TarnisUi.h"
 #include "TarnisLibrary/IconProviderLibrary/TarnisIconProviderDBusConnector.h"
 #include "tests/support/HostPage.h"
+#include "tests/support/RecordCounter.h"
 
-#include <atomic>
 #include <optional>
 
 namespace Tests
 {
-
-namespace
-{
-
-// Counts the records of a failed call to the service, and those that the library logs on the main thread.
-struct Log {
-    Log() { failedCalls = recordsOfLookups = 0; }
-    ~Log() { qInstallMessageHandler(previous); }
-
-    inline static std::atomic_int failedCalls, recordsOfLookups;
-
-private:
-    static void record(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
-    {
-        if (text.startsWith("\"D-Bus call to method"))
-            ++failedCalls;
-        else if (QThread::currentThread() == qApp->thread() && QByteArray(context.category) == "default")
-            ++recordsOfLookups;
-    }
-
-    const QtMessageHandler previous = qInstallMessageHandler(record);
-};
-
-} // namespace
 
 class QmlHostServiceTest : public QObject
 {
@@ -59,7 +35,7 @@ private Q_SLOTS:
 
     void everyEngineGetsEmptyLookupsAndThenTheAnswers()
     {
-        const Log log;
+        const RecordCounter counter;
         TarnisUi ui;
         ui.publish();
         const Page first(lookups);
@@ -72,14 +48,14 @@ private Q_SLOTS:
         for (const Page* page : {&first, &second})
             QCOMPARE((*page)["all"].toString(), resources->lookups("Cancel"));
         QCOMPARE(ui.problem(), QString());
-        QCOMPARE(Log::recordsOfLookups.load(), 0);
+        QCOMPARE(counter.recordsOfLookups.load(), 0);
     }
 
     void stoppedServiceBlocksNothingNotEvenTheEnd()
     {
         startModule();
         module->sendSignal(SIGSTOP);
-        const Log log;
+        const RecordCounter counter;
         {
             TarnisUi ui;
             ui.publish();
@@ -87,7 +63,7 @@ private Q_SLOTS:
             QVERIFY(!ui.waitUntilReady(100)); // usually the first call is in progress by then
             QCOMPARE(ui.problem(), QString());
         }
-        QCOMPARE(Log::failedCalls.load(), 0); // the end did not wait until the call failed
+        QCOMPARE(counter.failedCalls.load(), 0); // the end did not wait until the call failed
         TarnisUi ui;
         QVERIFY(!ui.waitUntilReady(100));
         module->sendSignal(SIGCONT);
@@ -97,7 +73,7 @@ private Q_SLOTS:
     void hungServiceIsAskedAgainAsSoonAsItAnswers()
     {
         startModule();
-        const Log log;
+        const RecordCounter counter;
         TarnisUi ui;
         ui.publish();
         QVERIFY(ui.waitUntilReady(10000));
@@ -109,7 +85,8 @@ private Q_SLOTS:
         module->sendSignal(SIGCONT);
         QTRY_COMPARE_WITH_TIMEOUT(page["color"].toString(), QString("#fe01fd"), 10000);
         QCOMPARE(ui.problem(), QString());
-        QCOMPARE(Log::failedCalls.load(), 0); // the answer to the first call is enough: no other one had to be repeated
+        QCOMPARE(counter.failedCalls.load(),
+                 0); // the answer to the first call is enough: no other one had to be repeated
     }
 
     void fileEditedWhileTheServiceHangsIsShown()
