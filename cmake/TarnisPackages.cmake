@@ -2,8 +2,8 @@
 # checker exist once: the QML parser of Qt 5.15 rejects QML that is written for Qt 6, that of Qt 6 reads both.
 set(debian ${PROJECT_SOURCE_DIR}/packaging/debian)
 file(STRINGS ${debian}/changelog latest_change LIMIT_COUNT 1)
-string(REGEX MATCH "-([0-9]+)\\)" debian_revision "${latest_change}")
-set(debian_version "${PROJECT_VERSION}-${CMAKE_MATCH_1}")
+string(REGEX REPLACE ".*-([0-9]+)\\).*" "\\1" debian_revision "${latest_change}")
+set(debian_version "${PROJECT_VERSION}-${debian_revision}")
 
 set(qt_name "Qt ${TARNIS_QT_MAJOR}")
 # Debian separates the version of the library file by a hyphen from a name that ends with a digit.
@@ -35,7 +35,7 @@ set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/TarnisPackageFiles.cmake)
 set(CPACK_TARNIS_DOCUMENTS ${debian}/changelog ${debian}/copyright)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE ${CMAKE_MATCH_1})
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${debian_revision})
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/TarnisLibrary)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
